@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "run_cli.h"
+
+#include <ostream>
+
+namespace tq::cli {
+
+static const char* const kUsage = "usage:\n"
+                                  "  tarnquill-cli new form|survey FILE\n"
+                                  "  tarnquill-cli build FILE [--mode form|survey] [--whole-page] "
+                                  "[--data-folder DIR] [--replace]\n"
+                                  "  tarnquill-cli show FILE.shw --template PATH\n"
+                                  "  tarnquill-cli serve FILE [--port N]\n";
+
+int RunCli(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err)
+{
+    if (args.empty() || args[0] == "--help" || args[0] == "-h") {
+        (args.empty() ? err : out) << kUsage;
+        return args.empty() ? 2 : 0;
+    }
+    err << "tarnquill-cli: unknown command '" << args[0] << "'\n" << kUsage;
+    return 2;
+}
+
+} // namespace tq::cli

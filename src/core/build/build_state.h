@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace tq::build {
+
+constexpr int kMessageLineSlots = 500;
+constexpr int kDownloadTextSlots = 150;
+constexpr int kDownloadFileSlots = 50;
+
+/// The values of one build, kept for the run of the program and reset by the
+/// driver. Slots are counted from 1 as the format counts them; slot 0 is unused.
+struct BuildState
+{
+    int buildError = 0; // 0 go on, 1 stop (user told), 5 unknown Input Type
+    bool setupHold = false;
+    bool cancelled = false;
+    int folderJump = 0;
+    bool entryPreview = false;
+    bool editPreview = false;
+    bool wholePage = false;
+    int questionNumber = 0;
+
+    int messageLineCount = 0;
+    std::array<std::string, kMessageLineSlots + 1> messageLines;
+
+    int downloadTextCount = 0;
+    std::array<std::string, kDownloadTextSlots + 1> downloadTexts;
+    int downloadFileCount = 0;
+    std::array<std::string, kDownloadFileSlots + 1> downloadFiles;
+    std::array<std::string, kDownloadFileSlots + 1> downloadNames;
+
+    std::string homePage;
+    bool optionPending = false;
+    std::string lastConditionField;
+    std::string htmlPath;
+    std::string phpPath;
+    std::string formAction;
+
+    bool passActive = false; // the pass flag of the driver
+    int pass = 0;            // 1 HTML pass, 2 PHP pass
+    int reminderCounter = 0; // publishing-instructions reminder
+};
+
+} // namespace tq::build

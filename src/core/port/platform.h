@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tq::platform {
+
+/// Sample values that the program shows until the user replaces them.
+inline constexpr std::string_view kSampleSite = "https://www.tarnquill.example";
+inline constexpr std::string_view kSampleEmail = "webmaster@tarnquill.example";
+/// Help pages and the version endpoint live under this address.
+inline constexpr std::string_view kHelpBase = "https://www.tarnquill.example/tarnquill/";
+inline constexpr std::string_view kVersionUrl = "https://www.tarnquill.example/tarnquill/download/revision.txt";
+inline constexpr std::string_view kVersionText = "Version 2.00.0002";
+
+/// Default tool paths: web editor, FTP program, browser.
+inline constexpr std::string_view kDefaultEditor = "/usr/bin/bluefish";
+inline constexpr std::string_view kDefaultFtp = "/usr/bin/filezilla";
+inline constexpr std::string_view kDefaultBrowser = "/usr/bin/xdg-open";
+
+/// The path separator of this platform.
+inline constexpr char kSeparator = '/';
+
+/// Joins a folder and one of the program's own file names, which keep their
+/// leading backslash ("\setup.imp"). The backslash becomes this platform's
+/// separator; a folder that already ends in a separator gets no second one.
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+/// The drive mark of this platform at the start of a recent-list line: the
+/// root "/". Returns the position of the path in `line`, or npos.
+size_t FindDriveMark(std::string_view line);
+
+} // namespace tq::platform

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tq {
+
+enum class Icon { None, Information, Exclamation, Critical, Question };
+enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Answer { Ok, Yes, No, Cancel };
+
+/// What a file dialog shows: its title, the folder it starts in, the name it
+/// proposes and its filter ("Form Files (*.fms) | *.fms").
+struct FileDialogSpec
+{
+    std::string title;
+    std::string initialFolder;
+    std::string initialName;
+    std::string filter;
+};
+
+/// The views the core asks the shell to bring to the front.
+enum class View { StartPage, Page1, Page2, Page3, Page4, SetupPage, EditPage, FinalPage, PhotoShowPage, Preview };
+
+/// Everything the core needs from the outside world. The core never talks to
+/// a screen: the Qt program, the command-line tool and the tests each give it
+/// one of these. Message texts carry CR (character 13) as their line break; an
+/// implementation that shows them converts CR at the edge.
+struct UiPort
+{
+    virtual ~UiPort() = default;
+
+    /// A modal message box with an OK button.
+    virtual void message(std::string_view text, std::string_view title, Icon icon) = 0;
+    /// A modal question; defaultButton counts from 1 as the buttons stand.
+    virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon,
+                       int defaultButton) = 0;
+    /// A one-line input box; nullopt when the user cancelled.
+    virtual std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
+                                                std::string_view initial) = 0;
+    virtual std::optional<std::string> openFileDialog(const FileDialogSpec& spec) = 0;
+    virtual std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) = 0;
+    virtual std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) = 0;
+    /// A colour dialog; colours are 24-bit values with red in the low byte.
+    virtual std::optional<long> chooseColor(long initial) = 0;
+
+    // Shell hooks. The defaults do nothing so that a headless port only
+    // implements what it can show.
+
+    /// Brings a view to the front (the others are hidden).
+    virtual void showView(View) {}
+    /// Opens the edit page on an Entry; selectLine > 0 selects that key line.
+    virtual void openEditPage(int /*page*/, int /*row*/, std::string_view /*selectKey*/) {}
+    /// Selects a row of a create page so that the user sees it.
+    virtual void selectRow(int /*page*/, int /*row*/) {}
+    /// The rows of the store changed; views refresh from the core's records.
+    virtual void entriesChanged() {}
+    /// Sets or clears the busy pointer.
+    virtual void setBusy(bool) {}
+    /// Starts a program, detached; false when it could not be started.
+    virtual bool startProgram(std::string_view /*program*/, const std::vector<std::string>& /*args*/,
+                              std::string_view /*workingFolder*/)
+    {
+        return false;
+    }
+    /// Opens a link, file or folder with the desktop's handler.
+    virtual bool openTarget(std::string_view /*target*/) { return false; }
+    /// Puts text on the clipboard.
+    virtual void setClipboard(std::string_view /*text*/) {}
+    /// A plain HTTP GET; nullopt when the transfer failed.
+    virtual std::optional<std::string> httpGet(std::string_view /*url*/, int /*timeoutMs*/) { return std::nullopt; }
+};
+
+/// Joins CR-separated message text with the given line break (a port's edge).
+std::string ConvertLineBreaks(std::string_view text, std::string_view lineBreak);
+
+} // namespace tq

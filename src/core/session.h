@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "build/build_state.h"
+#include "model/catalogue.h"
+#include "model/entry_store.h"
+#include "model/settings.h"
+#include "store/run_values.h"
+#include "store/setup_store.h"
+
+#include <string>
+
+namespace tq {
+
+/// Everything one run of the program keeps. The GUI, the CLI or a test owns
+/// one; procedures take the records they work on by reference.
+struct Session
+{
+    model::EntryStore store;
+    model::TemplateSettings settings;
+    model::Catalogue catalogue;
+    build::BuildState build;
+    store::SetupStore setup;
+    store::RunValues run;
+    std::string DataFolder;
+};
+
+} // namespace tq

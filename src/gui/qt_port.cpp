@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt_port.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QUrl>
+
+namespace tq::gui {
+
+static QString ToQ(std::string_view s)
+{
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+static QString ToQText(std::string_view s)
+{
+    return ToQ(ConvertLineBreaks(s, "\n"));
+}
+
+static QMessageBox::Icon ToQIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// "Form Files (*.fms) | *.fms" -> "Form Files (*.fms)"
+static QString ToQFilter(const std::string& filter)
+{
+    QStringList out;
+    const QStringList parts = ToQ(filter).split('|');
+    for (int i = 0; i < parts.size(); i += 2)
+        out << parts[i].trimmed();
+    return out.join(";;");
+}
+
+void QtPort::message(std::string_view text, std::string_view title, Icon icon)
+{
+    QMessageBox box(ToQIcon(icon), ToQ(title), ToQText(text), QMessageBox::Ok, m_parent);
+    box.exec();
+}
+
+Answer QtPort::ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton)
+{
+    QMessageBox::StandardButtons set = QMessageBox::Ok;
+    QList<QMessageBox::StandardButton> order{QMessageBox::Ok};
+    if (buttons == Buttons::YesNo)
+        order = {QMessageBox::Yes, QMessageBox::No};
+    else if (buttons == Buttons::YesNoCancel)
+        order = {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    set = {};
+    for (auto b : order)
+        set |= b;
+    QMessageBox box(ToQIcon(icon), ToQ(title), ToQText(text), set, m_parent);
+    if (defaultButton >= 1 && defaultButton <= order.size())
+        box.setDefaultButton(order[defaultButton - 1]);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+std::optional<std::string> QtPort::inputBox(std::string_view prompt, std::string_view title, std::string_view initial)
+{
+    bool ok = false;
+    QString s = QInputDialog::getText(m_parent, ToQ(title), ToQText(prompt), QLineEdit::Normal, ToQ(initial), &ok);
+    if (!ok)
+        return std::nullopt;
+    return s.toStdString();
+}
+
+std::optional<std::string> QtPort::openFileDialog(const FileDialogSpec& spec)
+{
+    QString f = QFileDialog::getOpenFileName(m_parent, ToQ(spec.title), ToQ(spec.initialFolder),
+                                             ToQFilter(spec.filter));
+    if (f.isEmpty())
+        return std::nullopt;
+    return f.toStdString();
+}
+
+std::optional<std::string> QtPort::saveFileDialog(const FileDialogSpec& spec)
+{
+    QString start = ToQ(spec.initialFolder);
+    if (!spec.initialName.empty())
+        start += "/" + ToQ(spec.initialName);
+    QString f = QFileDialog::getSaveFileName(m_parent, ToQ(spec.title), start, ToQFilter(spec.filter), nullptr,
+                                             QFileDialog::DontConfirmOverwrite);
+    if (f.isEmpty())
+        return std::nullopt;
+    return f.toStdString();
+}
+
+std::optional<std::string> QtPort::browseForFolder(std::string_view title, std::string_view initial)
+{
+    QString f = QFileDialog::getExistingDirectory(m_parent, ToQ(title), ToQ(initial));
+    if (f.isEmpty())
+        return std::nullopt;
+    return f.toStdString();
+}
+
+std::optional<long> QtPort::chooseColor(long initial)
+{
+    QColor start(static_cast<int>(initial & 0xff), static_cast<int>((initial >> 8) & 0xff),
+                 static_cast<int>((initial >> 16) & 0xff));
+    QColor c = QColorDialog::getColor(start, m_parent);
+    if (!c.isValid())
+        return std::nullopt;
+    return static_cast<long>(c.red()) | (static_cast<long>(c.green()) << 8) | (static_cast<long>(c.blue()) << 16);
+}
+
+void QtPort::setBusy(bool on)
+{
+    if (on)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+bool QtPort::openTarget(std::string_view target)
+{
+    QString t = ToQ(target);
+    QUrl url = t.contains("://") ? QUrl(t) : QUrl::fromLocalFile(t);
+    return QDesktopServices::openUrl(url);
+}
+
+void QtPort::setClipboard(std::string_view text)
+{
+    QApplication::clipboard()->setText(ToQ(text));
+}
+
+} // namespace tq::gui

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "port/ui_port.h"
+
+class QWidget;
+
+namespace tq::gui {
+
+/// The port of the desktop program: message boxes, dialogs, the desktop's
+/// handlers. CR in a text becomes a line break here.
+class QtPort : public UiPort
+{
+public:
+    explicit QtPort(QWidget* parent) : m_parent(parent) {}
+
+    void message(std::string_view text, std::string_view title, Icon icon) override;
+    Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) override;
+    std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view initial) override;
+    std::optional<std::string> openFileDialog(const FileDialogSpec& spec) override;
+    std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) override;
+    std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
+    std::optional<long> chooseColor(long initial) override;
+    void setBusy(bool on) override;
+    bool openTarget(std::string_view target) override;
+    void setClipboard(std::string_view text) override;
+
+private:
+    QWidget* m_parent;
+};
+
+} // namespace tq::gui
