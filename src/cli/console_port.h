@@ -13,13 +13,13 @@ namespace tq::cli {
 /// existing output files.
 class ConsolePort : public UiPort
 {
-public:
+  public:
     explicit ConsolePort(std::ostream& err) : m_err(err) {}
 
     void message(std::string_view text, std::string_view title, Icon icon) override;
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) override;
-    std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
-                                        std::string_view initial) override;
+    std::optional<std::string>
+    inputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
     std::optional<std::string> openFileDialog(const FileDialogSpec& spec) override;
     std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
@@ -30,7 +30,7 @@ public:
     /// Number of messages shown so far.
     int messageCount = 0;
 
-private:
+  private:
     std::ostream& m_err;
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run_cli.h"
 
+#include "commands.h"
+
 #include <ostream>
 
 namespace tq::cli {
@@ -18,6 +20,15 @@ int RunCli(const std::vector<std::string>& args, std::istream&, std::ostream& ou
         (args.empty() ? err : out) << kUsage;
         return args.empty() ? 2 : 0;
     }
+    std::vector<std::string> rest(args.begin() + 1, args.end());
+    if (args[0] == "new")
+        return CmdNew(rest, out, err);
+    if (args[0] == "build")
+        return CmdBuild(rest, out, err);
+    if (args[0] == "show")
+        return CmdShow(rest, out, err);
+    if (args[0] == "serve")
+        return CmdServe(rest, out, err);
     err << "tarnquill-cli: unknown command '" << args[0] << "'\n" << kUsage;
     return 2;
 }

@@ -17,13 +17,13 @@ class QtPort;
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
-public:
+  public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
     Session& session() { return m_session; }
 
-private:
+  private:
     void buildStartPage();
 
     Session m_session;

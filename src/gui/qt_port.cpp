@@ -92,8 +92,8 @@ std::optional<std::string> QtPort::inputBox(std::string_view prompt, std::string
 
 std::optional<std::string> QtPort::openFileDialog(const FileDialogSpec& spec)
 {
-    QString f = QFileDialog::getOpenFileName(m_parent, ToQ(spec.title), ToQ(spec.initialFolder),
-                                             ToQFilter(spec.filter));
+    QString f =
+        QFileDialog::getOpenFileName(m_parent, ToQ(spec.title), ToQ(spec.initialFolder), ToQFilter(spec.filter));
     if (f.isEmpty())
         return std::nullopt;
     return f.toStdString();

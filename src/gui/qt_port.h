@@ -11,13 +11,13 @@ namespace tq::gui {
 /// handlers. CR in a text becomes a line break here.
 class QtPort : public UiPort
 {
-public:
+  public:
     explicit QtPort(QWidget* parent) : m_parent(parent) {}
 
     void message(std::string_view text, std::string_view title, Icon icon) override;
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) override;
-    std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
-                                        std::string_view initial) override;
+    std::optional<std::string>
+    inputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
     std::optional<std::string> openFileDialog(const FileDialogSpec& spec) override;
     std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
@@ -26,7 +26,7 @@ public:
     bool openTarget(std::string_view target) override;
     void setClipboard(std::string_view text) override;
 
-private:
+  private:
     QWidget* m_parent;
 };
 

@@ -27,8 +27,8 @@ Answer ScriptedPort::ask(std::string_view text, std::string_view title, Buttons 
     return a;
 }
 
-std::optional<std::string> ScriptedPort::inputBox(std::string_view prompt, std::string_view title,
-                                                  std::string_view initial)
+std::optional<std::string>
+ScriptedPort::inputBox(std::string_view prompt, std::string_view title, std::string_view initial)
 {
     shown.push_back({"input", std::string(prompt), std::string(title), Icon::None, Buttons::Ok, 0});
     (void)initial;
@@ -85,7 +85,8 @@ void ScriptedPort::openEditPage(int page, int row, std::string_view selectKey)
     editCalls.push_back({page, row, std::string(selectKey)});
 }
 
-bool ScriptedPort::startProgram(std::string_view program, const std::vector<std::string>& args,
+bool ScriptedPort::startProgram(std::string_view program,
+                                const std::vector<std::string>& args,
                                 std::string_view workingFolder)
 {
     started.push_back({std::string(program), args, std::string(workingFolder)});

@@ -26,11 +26,11 @@ struct Shown
 /// answer queued fails the running test.
 class ScriptedPort : public UiPort
 {
-public:
+  public:
     void message(std::string_view text, std::string_view title, Icon icon) override;
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) override;
-    std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
-                                        std::string_view initial) override;
+    std::optional<std::string>
+    inputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
     std::optional<std::string> openFileDialog(const FileDialogSpec& spec) override;
     std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
@@ -40,7 +40,8 @@ public:
     void openEditPage(int page, int row, std::string_view selectKey) override;
     void selectRow(int page, int row) override { selectedRows.push_back({page, row}); }
     void setBusy(bool on) override { busyCalls.push_back(on); }
-    bool startProgram(std::string_view program, const std::vector<std::string>& args,
+    bool startProgram(std::string_view program,
+                      const std::vector<std::string>& args,
                       std::string_view workingFolder) override;
     bool openTarget(std::string_view target) override;
     void setClipboard(std::string_view text) override { clipboard = std::string(text); }
@@ -99,7 +100,7 @@ void WriteFileBytes(const std::string& path, const std::string& bytes);
 /// A fresh temporary folder, removed with the object.
 class TempDir
 {
-public:
+  public:
     TempDir();
     ~TempDir();
     TempDir(const TempDir&) = delete;
@@ -107,7 +108,7 @@ public:
     const std::string& path() const { return m_path; }
     std::string file(std::string_view name) const;
 
-private:
+  private:
     std::string m_path;
 };
 

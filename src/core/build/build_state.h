@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "build/line_writer.h"
+#include "build/working_values.h"
+
 #include <array>
 #include <string>
 
@@ -42,6 +45,10 @@ struct BuildState
     bool passActive = false; // the pass flag of the driver
     int pass = 0;            // 1 HTML pass, 2 PHP pass
     int reminderCounter = 0; // publishing-instructions reminder
+
+    Channels channels; // 1 main file, 2 download checks, 3 scratch
+    SetupValues setupValues;
+    WorkingValues values;
 };
 
 } // namespace tq::build

@@ -36,11 +36,11 @@ struct UiPort
     /// A modal message box with an OK button.
     virtual void message(std::string_view text, std::string_view title, Icon icon) = 0;
     /// A modal question; defaultButton counts from 1 as the buttons stand.
-    virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon,
-                       int defaultButton) = 0;
+    virtual Answer
+    ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) = 0;
     /// A one-line input box; nullopt when the user cancelled.
-    virtual std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
-                                                std::string_view initial) = 0;
+    virtual std::optional<std::string>
+    inputBox(std::string_view prompt, std::string_view title, std::string_view initial) = 0;
     virtual std::optional<std::string> openFileDialog(const FileDialogSpec& spec) = 0;
     virtual std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) = 0;
     virtual std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) = 0;
@@ -61,7 +61,8 @@ struct UiPort
     /// Sets or clears the busy pointer.
     virtual void setBusy(bool) {}
     /// Starts a program, detached; false when it could not be started.
-    virtual bool startProgram(std::string_view /*program*/, const std::vector<std::string>& /*args*/,
+    virtual bool startProgram(std::string_view /*program*/,
+                              const std::vector<std::string>& /*args*/,
                               std::string_view /*workingFolder*/)
     {
         return false;

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "port/ui_port.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tq::model {
+
+/// A bound of a fixed working list or table was passed: a fault of the
+/// program, reported to the user, never undefined behaviour.
+struct InternalError : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+/// A working list with a fixed bound. Items are counted from 1 as the format
+/// counts them: at(1) is the first. push past the bound throws InternalError.
+template <int Bound> struct BoundedList
+{
+    std::vector<std::string> items;
+
+    int count() const { return static_cast<int>(items.size()); }
+    void clear() { items.clear(); }
+    void push(std::string s)
+    {
+        if (count() >= Bound)
+            throw InternalError("internal error: list bound " + std::to_string(Bound) + " passed");
+        items.push_back(std::move(s));
+    }
+    /// 1-based access; an index outside 1..count throws InternalError.
+    const std::string& at(int i) const
+    {
+        if (i < 1 || i > count())
+            throw InternalError("internal error: list index " + std::to_string(i) + " out of range");
+        return items[static_cast<size_t>(i - 1)];
+    }
+};
+
+using ChoiceList = BoundedList<100>;
+using LineList = BoundedList<100>;
+using HtmlLineList = BoundedList<150>;
+
+/// The destructive reader: takes the item `key` ("[TITLE", "[INFO:", "[" for
+/// any item) from the front of `text` into `value`. Shows its own messages
+/// through `ui` and sets `err` to 1 on a fault (err is set to 0 on entry).
+/// A "[SERVER DOWNLOAD" value is also stored in *serverFolderPath when given.
+void TakeAttribute(UiPort& ui,
+                   std::string_view key,
+                   std::string& value,
+                   std::string& text,
+                   int& err,
+                   std::string* serverFolderPath = nullptr);
+
+/// Reads one "[KEY=a,b,c]" item from the front of `text` into `list`.
+/// `key` is upper case. Sets `err` to 1 with its message on a fault.
+void TakeChoiceList(UiPort& ui, std::string_view key, std::string& text, ChoiceList& list, int& err);
+
+/// Splits at backslash-n (either case) into left-trimmed lines.
+LineList SplitLines(std::string text);
+
+/// Splits at backslash-n keeping blanks and empty lines, with the &nbsp; rewriting.
+HtmlLineList SplitHtmlLines(std::string_view text);
+
+/// The stored form of a one-line template: one item per line, blank lines
+/// before block keys, CR LF after every line. Messages of the reader go to `ui`.
+std::string NormalizeAttributeText(UiPort& ui, std::string_view text);
+
+/// Reads the optional shade pair. Sets err on the first failing read.
+void TakeShadeGroup(UiPort& ui, std::string& text, std::string& shadeWidth, std::string& shadeColor, int& err);
+
+/// Reads the line group of a HORIZONTAL LINE; stops at the first error.
+void TakeLineGroup(UiPort& ui,
+                   std::string& text,
+                   std::string& width,
+                   std::string& size,
+                   std::string& align,
+                   std::string& color,
+                   int& err);
+
+/// Joins the text around every CR and LF.
+std::string RemoveLineBreaks(std::string_view text);
+
+/// A decimal colour (red in the low byte) as six hex digits RRGGBB; empty stays empty.
+std::string ColorToHex(std::string_view value);
+
+} // namespace tq::model
