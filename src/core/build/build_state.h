@@ -25,6 +25,7 @@ struct BuildState
     bool editPreview = false;
     bool wholePage = false;
     int questionNumber = 0;
+    int phpQuestionNumber = 0; // numbers the messages of the script; reset with questionNumber
 
     int messageLineCount = 0;
     std::array<std::string, kMessageLineSlots + 1> messageLines;
@@ -41,6 +42,10 @@ struct BuildState
     std::string htmlPath;
     std::string phpPath;
     std::string formAction;
+    /// The mail subject of the script: the SUBJECT Entry's default value, taken
+    /// in the HTML pass of a FORM. Not reset per build: a list without SUBJECT
+    /// keeps the subject of the last build of this run.
+    std::string mailSubject;
 
     bool passActive = false; // the pass flag of the driver
     int pass = 0;            // 1 HTML pass, 2 PHP pass
