@@ -30,6 +30,12 @@ struct SetupValues
     std::string FrameBorderColor;   // [FRAME BORDER COLOR=
     std::string FrameColor;         // [FRAME COLOR=
     int TotalFrames = 0;            // [TOTAL FRAMES=
+    // Derived when the SetupEntry is read at build time.
+    int FrameOff = 1;               // 0 when FORM and [INCLUDE FRAME WITH FORM= is "YES", else 1
+    std::string BackgroundColorHex; // ColorToHex copies of the colour keys
+    std::string SubmitButtonColorHex;
+    std::string FrameBorderColorHex;
+    std::string FrameColorHex;
 };
 
 /// The working values of one Entry, filled by the extraction and read by the
@@ -57,8 +63,9 @@ struct WorkingValues
     model::ChoiceList CheckBoxes; // list "CHECK BOX"
     model::ChoiceList RowChoices; // list "ROW CHOICES": the table's column choices
     model::LineList IntroLines;   // SURVEY INTRO's title lines
-    std::string ShadeWidth;
-    std::string ShadeColor;
+    std::string ShadeWidth;       // raw, or its ColorToHex copy when it holds no "%" (the reader's rule)
+    std::string ShadeColor;       // raw decimal text
+    std::string ShadeColorHex;    // ColorToHex(ShadeColor)
     std::string ChoicesBackColor;
     std::string ChoicesBackColorHex;
     std::string AnswerBackColor;
@@ -66,22 +73,30 @@ struct WorkingValues
     std::string DefaultColor;
     std::string DefaultColorHex;
     std::string ColChoice;
-    std::string RequiredTable;
+    std::string RequiredTable; // [REQUIRED TABLE=, also copied to REQ
+    // A table keeps its own text colour and styles, apart from the heading's;
+    // the global overrides never touch them.
+    std::string TableTextColor;
+    std::string TableTextColorHex;
+    std::string TableItalics;
+    std::string TableBold;
     std::string TitleShadeWidth;
     // pictures and videos
-    std::string ServerPath;
+    std::string ServerPath; // [SERVER PICTURE PATH= or [SERVER VIDEO PATH=
     std::string VideoAlign;
     std::string VideoWidth;
     std::string VideoHeight;
     std::string Autostart;
     std::string Loop;
-    std::string PictureAlign;
+    std::string PictureAlign; // a PICTURE's [ALIGN= (also in ALIGN, which its writer uses)
     std::string PictureWidth;
     std::string PictureHeight;
     // downloads
     std::string ServerDownload;
     std::string ShowFileLabels;
-    std::string VisibleDownload;
+    std::string VisibleDownload;         // DOWNLOAD FILES
+    std::string VisibleDownloadPassword; // DOWNLOAD FILES WITH PASSWORD
+    std::string ServerFolderPath;        // [SERVER DOWNLOAD= with a "/" added behind a folder
     std::string ThankYouFile;
     // cancel button, blank line, horizontal line
     std::string ButtonName;
