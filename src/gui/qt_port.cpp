@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QProcess>
 #include <QUrl>
 
 namespace tq::gui {
@@ -147,6 +148,40 @@ bool QtPort::openTarget(std::string_view target)
 void QtPort::setClipboard(std::string_view text)
 {
     QApplication::clipboard()->setText(ToQ(text));
+}
+
+void QtPort::showView(View v)
+{
+    if (onShowView)
+        onShowView(v);
+}
+
+void QtPort::openEditPage(int page, int row, std::string_view selectKey)
+{
+    if (onOpenEditPage)
+        onOpenEditPage(page, row, std::string(selectKey));
+}
+
+void QtPort::selectRow(int page, int row)
+{
+    if (onSelectRow)
+        onSelectRow(page, row);
+}
+
+void QtPort::entriesChanged()
+{
+    if (onEntriesChanged)
+        onEntriesChanged();
+}
+
+bool QtPort::startProgram(std::string_view program,
+                          const std::vector<std::string>& args,
+                          std::string_view workingFolder)
+{
+    QStringList list;
+    for (const auto& a : args)
+        list << ToQ(a);
+    return QProcess::startDetached(ToQ(program), list, ToQ(workingFolder));
 }
 
 } // namespace tq::gui

@@ -3,6 +3,8 @@
 
 #include "port/ui_port.h"
 
+#include <functional>
+
 class QWidget;
 
 namespace tq::gui {
@@ -25,6 +27,19 @@ class QtPort : public UiPort
     void setBusy(bool on) override;
     bool openTarget(std::string_view target) override;
     void setClipboard(std::string_view text) override;
+    void showView(View v) override;
+    void openEditPage(int page, int row, std::string_view selectKey) override;
+    void selectRow(int page, int row) override;
+    void entriesChanged() override;
+    bool startProgram(std::string_view program,
+                      const std::vector<std::string>& args,
+                      std::string_view workingFolder) override;
+
+    // The window that owns the pages answers the shell hooks.
+    std::function<void(View)> onShowView;
+    std::function<void(int, int, std::string)> onOpenEditPage;
+    std::function<void(int, int)> onSelectRow;
+    std::function<void()> onEntriesChanged;
 
   private:
     QWidget* m_parent;

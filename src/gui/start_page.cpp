@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "start_page.h"
+
+#include <QLabel>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+namespace tq::gui {
+
+StartPage::StartPage(const CommandHandler& handler, QWidget* parent) : QWidget(parent)
+{
+    setObjectName("StartPage");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->setMenuBar(BuildMenuBar(MenuKind::StartPage, this, handler));
+
+    auto* banner = new QWidget;
+    banner->setObjectName("StartBanner");
+    banner->setStyleSheet("#StartBanner { background: qlineargradient(x1:0, y1:0, x2:1, y2:1,"
+                          " stop:0 #1f4e79, stop:1 #2e86ab); }");
+    auto* bl = new QVBoxLayout(banner);
+    bl->setContentsMargins(48, 48, 48, 48);
+    bl->addStretch(2);
+    auto* title = new QLabel("Tarnquill");
+    title->setObjectName("StartTitle");
+    title->setStyleSheet("color: white; font-size: 54px; font-weight: 600;");
+    auto* tagline = new QLabel("Web forms and surveys, with the script that handles them.");
+    tagline->setStyleSheet("color: #e6f1f8; font-size: 20px;");
+    auto* hint = new QLabel("Start with File \u203a Form \u203a Create Form, or open a saved project.");
+    hint->setStyleSheet("color: #cfe3ef; font-size: 14px;");
+    bl->addWidget(title);
+    bl->addWidget(tagline);
+    bl->addSpacing(12);
+    bl->addWidget(hint);
+    bl->addStretch(3);
+    layout->addWidget(banner, 1);
+
+    auto* status = new QWidget;
+    status->setObjectName("StartStatus");
+    auto* sl = new QVBoxLayout(status);
+    sl->setContentsMargins(24, 12, 24, 12);
+    m_mode = new QLabel;
+    m_mode->setObjectName("lblActive");
+    m_mode->setStyleSheet("font-weight: 600;");
+    m_file = new QLabel;
+    m_file->setObjectName("lblFile");
+    sl->addWidget(m_mode);
+    sl->addWidget(m_file);
+    layout->addWidget(status);
+}
+
+void StartPage::setStatus(const QString& modeText, const QString& fileText)
+{
+    m_mode->setText(modeText);
+    m_file->setText(fileText);
+}
+
+} // namespace tq::gui
