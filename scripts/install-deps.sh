@@ -4,7 +4,7 @@
 set -eu
 PKGS="cmake ninja-build g++ qt6-base-dev qt6-webengine-dev qt6-tools-dev libgl-dev"
 if [ "${1:-}" = "--test" ]; then
-    PKGS="$PKGS libgtest-dev libgmock-dev libbenchmark-dev php-cli php-zip xvfb xauth chromium clang libclang-rt-14-dev nodejs npm"
+    PKGS="$PKGS dpkg-dev libgtest-dev libgmock-dev libbenchmark-dev php-cli php-zip xvfb xauth chromium clang libclang-rt-14-dev nodejs npm"
 fi
 missing=""
 for p in $PKGS; do
