@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "html/headings.h"
+#include "html_fixture.h"
+#include "model/attribute_text.h"
+
+#include <gtest/gtest.h>
+
+using tq::test::HtmlFixture;
+using tq::test::Lines;
+namespace html = tq::html;
+
+TEST(FieldName, FiveLettersAndSlotWithTheInnerBlankKept)
+{
+    EXPECT_EQ(html::FieldName("NAME", 3), "name3");
+    EXPECT_EQ(html::FieldName("EMAIL", 5), "email5");
+    EXPECT_EQ(html::FieldName("COMMENTS REQUIRED", 7), "comme7");
+    EXPECT_EQ(html::FieldName("QUESTION YESNO REQUIRED", 9), "quest9");
+    EXPECT_EQ(html::FieldName("CELL PHONE NUMBER", 11), "cell 11");
+    EXPECT_EQ(html::FieldName("User Name", 13), "user 13");
+    EXPECT_EQ(html::PreviewFieldName("CELL PHONE NUMBER"), "cell phone number1");
+}
+
+TEST(Numbering, PairRuleGivesAAndBAndDownloadCountsPlain)
+{
+    HtmlFixture f;
+    auto& b = f.s.build;
+    std::string c1 = "Name", c2 = "Cond", c3 = "Follow", c4 = "Files", c5 = "Next";
+    html::NumberForMessage(b, c1, "NAME");
+    html::NumberForMessage(b, c2, "condition with comment");
+    html::NumberForMessage(b, c3, "FOLLOWUP WITH COMMENT");
+    html::NumberForMessage(b, c4, "DOWNLOAD FILES");
+    html::NumberForMessage(b, c5, "FOLLOWUP FILES WITH PASSWORD");
+    EXPECT_EQ(c1, "1. Name");
+    EXPECT_EQ(c2, "2a. Cond");
+    EXPECT_EQ(c3, "2b. Follow");
+    EXPECT_EQ(c4, "3. Files");
+    EXPECT_EQ(c5, "3b. Next");
+    EXPECT_EQ(b.messageNumber, 3);
+    EXPECT_EQ(b.questionNumber, 0);
+}
+
+TEST(Numbering, PageNumbersOnlyWhenAskedAndTheBLineIsIndented)
+{
+    HtmlFixture f;
+    auto& b = f.s.build;
+    std::string t = "Title";
+    html::NumberForPage(b, t, "NAME");
+    EXPECT_EQ(t, "Title");
+    EXPECT_EQ(b.questionNumber, 0);
+
+    b.setupValues.NumberEachQuestion = "yes";
+    std::string a = "Cond", bb = "Follow";
+    html::NumberForPage(b, a, "CONDITION WITH DROPDOWN");
+    html::NumberForPage(b, bb, "FOLLOWUP WITH DROPDOWN");
+    EXPECT_EQ(a, "1a. &nbsp;Cond");
+    EXPECT_EQ(bb, "&nbsp;&nbsp;&nbsp;1b. &nbsp;Follow");
+}
+
+TEST(Numbering, RecordQuestionKeepsTheCaptionFreeOfNbsp)
+{
+    HtmlFixture f;
+    auto& b = f.s.build;
+    b.setupValues.NumberEachQuestion = "YES";
+    std::string title = "Your name";
+    html::RecordQuestion(b, "name3", title, "NAME");
+    std::string off = "E-mail";
+    b.setupValues.NumberEachQuestion = "NO";
+    html::RecordQuestion(b, "email5", off, "EMAIL");
+    EXPECT_EQ(b.messageLineCount, 4);
+    EXPECT_EQ(b.messageLines[1], "1. Your name");
+    EXPECT_EQ(b.messageLines[2], "name3");
+    EXPECT_EQ(b.messageLines[3], "2. E-mail");
+    EXPECT_EQ(b.messageLines[4], "email5");
+    EXPECT_EQ(title, "1. &nbsp;Your name");
+    EXPECT_EQ(off, "E-mail"); // the page carries no number, the caption still does
+}
+
+TEST(Numbering, MessageTableBoundIsReported)
+{
+    HtmlFixture f;
+    for (int i = 0; i < 500; ++i)
+        html::AppendMessageLine(f.s.build, "x");
+    EXPECT_THROW(html::AppendMessageLine(f.s.build, "y"), tq::model::InternalError);
+    EXPECT_EQ(f.s.build.messageLineCount, 500);
+}
+
+TEST(SplitTitle, MarkersInAnyCaseEmptyLinesAndNoTrailingLine)
+{
+    HtmlFixture f;
+    auto& lines = f.s.build.TitleLines;
+    html::SplitTitle(f.s.build, "a\\n\\Nb");
+    ASSERT_EQ(lines.count(), 3);
+    EXPECT_EQ(lines.at(1), "a");
+    EXPECT_EQ(lines.at(2), "");
+    EXPECT_EQ(lines.at(3), "b");
+    html::SplitTitle(f.s.build, "one\\n");
+    ASSERT_EQ(lines.count(), 1);
+    EXPECT_EQ(lines.at(1), "one");
+    html::SplitTitle(f.s.build, ""); // an empty title leaves the lines as they stand
+    EXPECT_EQ(lines.count(), 1);
+}
+
+TEST(SplitTitle, BlankRunsBecomeNbspWithTheFormatsCut)
+{
+    HtmlFixture f;
+    auto& lines = f.s.build.TitleLines;
+    html::SplitTitle(f.s.build, "  lead\\nabcdef    ghij\\n short");
+    ASSERT_EQ(lines.count(), 3);
+    EXPECT_EQ(lines.at(1), "&nbsp;  lead");
+    EXPECT_EQ(lines.at(2), "abcde&nbsp;  ghij"); // the "f" goes with the cut
+    EXPECT_EQ(lines.at(3), " short");
+}
+
+TEST(SplitTitle, MoreThan150LinesIsAnInternalError)
+{
+    HtmlFixture f;
+    std::string title;
+    for (int i = 0; i < 151; ++i)
+        title += "x\\n";
+    title += "last";
+    EXPECT_THROW(html::SplitTitle(f.s.build, title), tq::model::InternalError);
+}
+
+TEST(FormHeading, OneLineNotRequired)
+{
+    HtmlFixture f;
+    html::WriteFormHeading(f.s, "Your name", "no", "NAME");
+    EXPECT_EQ(f.Output(),
+              Lines({R"(<font color="000000" face="arial" size="3">)", R"(<p align="left">)", "Your name", "<br>"}));
+}
+
+TEST(FormHeading, TwoLinesRequiredWithStylesAndALeadingBlank)
+{
+    HtmlFixture f;
+    f.s.build.values.Italics = "ON";
+    f.s.build.values.Bold = "on";
+    f.s.build.values.ALIGN = "center";
+    html::WriteFormHeading(f.s, "First\\n second", "Yes", "EMAIL");
+    EXPECT_EQ(f.Output(), Lines({R"(<font color="000000" face="arial" size="3">)", "<i>", "<b>",
+                                 R"(<p align="center">)", "* First <br>", "&nbsp; second", "</i>", "</b>", "<br>"}));
+}
+
+TEST(FormHeading, ThreeLinesNumberedAndPasswordDownloadIsAlwaysRequired)
+{
+    HtmlFixture f;
+    f.s.build.setupValues.NumberEachQuestion = "YES";
+    std::string title = "A\\nB\\nC";
+    html::RecordQuestion(f.s.build, "downl3", title, "DOWNLOAD FILES WITH PASSWORD");
+    html::WriteFormHeading(f.s, title, "no", "DOWNLOAD FILES WITH PASSWORD");
+    EXPECT_EQ(f.Output(), Lines({R"(<font color="000000" face="arial" size="3">)", R"(<p align="left">)",
+                                 "* 1a. &nbsp;A <br>", "B <br>", "C", "<br>"}));
+}
+
+TEST(SurveyHeading, FormAForANameWithTheStarAndTheShade)
+{
+    HtmlFixture f("survey");
+    auto& v = f.s.build.values;
+    v.Bold = "ON";
+    v.ShadeWidth = "F40100"; // the reader's copy of a width of 500
+    v.ShadeColorHex = "FF0000";
+    html::WriteSurveyHeading(f.s, "Your name", "YES", "NAME");
+    EXPECT_EQ(f.Output(),
+              Lines({R"(<font color="000000" face="arial" size="3">)", "<b>", "",
+                     R"(<p align="left"><font face="arial" size="3">)", "* Your name", "</b>", "</font> </p>",
+                     R"(<div align="left">)", R"(<table border="0" width="F40100" bgcolor="FF0000">)",
+                     R"(<tr><td width="F40100" align="center">)"}));
+}
+
+TEST(SurveyHeading, FormDWritesEveryLineButTheLastTwice)
+{
+    HtmlFixture f("SURVEY");
+    f.s.build.values.Italics = "on";
+    f.s.build.values.ShadeWidth = "80%";
+    f.s.build.values.ShadeColorHex = "EEEEEE";
+    html::WriteSurveyHeading(f.s, "One\\nTwo\\nThree", "yes", "QUESTION YESNO REQUIRED");
+    EXPECT_EQ(f.Output(),
+              Lines({R"(<font color="000000" face="arial" size="3">)", "<i>", "",
+                     R"(<p align="left"><font face="arial" size="3"></p>)", "",
+                     R"(<p align="left"><font face="arial" size="3">* One </p>)", R"(<p align="left">* One)", "</i>",
+                     "</font> </p>", "Two </p>", R"(<p align="left">Two)", "</i>", "</font> </p>",
+                     R"(<p align="left">Three)", "</i>", "</font> </p>", R"(<div align="left">)",
+                     R"(<table border="0" width="80%" bgcolor="EEEEEE">)", R"(<tr><td width="80%" align="center">)"}));
+}
+
+TEST(SurveyHeading, FormDOneLineEmail)
+{
+    HtmlFixture f("SURVEY");
+    html::WriteSurveyHeading(f.s, "E-mail", "yes", "EMAIL");
+    EXPECT_EQ(f.Output(), Lines({R"(<font color="000000" face="arial" size="3">)", "",
+                                 R"(<p align="left"><font face="arial" size="3"></p>)", "",
+                                 R"(<p align="left"><font face="arial" size="3"><p align="left">* E-mail)",
+                                 "</font> </p>", R"(<div align="left">)", R"(<table border="0" width="" bgcolor="">)",
+                                 R"(<tr><td width="" align="center">)"}));
+}
+
+TEST(SurveyHeading, FormBForAFollowupDropdown)
+{
+    HtmlFixture f("SURVEY");
+    f.s.build.values.TextColorHex = "00FF00";
+    html::WriteSurveyHeading(f.s, "A\\nB", "no", "FOLLOWUP WITH DROPDOWN");
+    const std::string out = f.Output();
+    EXPECT_EQ(out.substr(0, out.find("<div")),
+              Lines({R"(<font color="00FF00" face="arial" size="3">)", "",
+                     R"(<font face="arial" size="3"><p align="left"color="00FF00">)", R"(<p align="left">)",
+                     R"(<font face="arial" size="3"><p align="left">A)", "</font> </p>", R"(<p align="left">)",
+                     R"(<font face="arial" size="3"><p align="left">B)", "</font> </p>", R"(<p align="left">)"}));
+}
+
+TEST(SurveyHeading, FormCForCheckboxes)
+{
+    HtmlFixture f("SURVEY");
+    html::WriteSurveyHeading(f.s, "A\\nB", "YES", "CHECKBOX VERTICAL");
+    const std::string out = f.Output();
+    EXPECT_EQ(out.substr(0, out.find("<div")),
+              Lines({R"(<font color="000000" face="arial" size="3">)", "",
+                     R"(<font face="arial" size="3"><p align="left">* A)", "</font> </p>",
+                     R"(<font face="arial" size="3"><p align="left">B)", "</font> </p>",
+                     R"(<p align="left"><font face="arial" size="3">)"}));
+}
+
+TEST(SurveyHeading, TitleTypesTakeFormAWithoutStarOrShade)
+{
+    HtmlFixture f("SURVEY");
+    f.s.build.values.ALIGN = "center";
+    f.s.build.values.TitleSize = "5";
+    html::WriteSurveyHeading(f.s, "Welcome\\nto us", "YES", "TITLE 2 DOUBLE LINE");
+    EXPECT_EQ(f.Output(),
+              Lines({R"(<font color="000000" face="arial" size="5">)", "",
+                     R"(<p align="center"><font face="arial" size="5">)", "Welcome<br>", "to us", "</font> </p>"}));
+}
+
+TEST(SurveyHeading, IntroductionLinesReplaceTheHeading)
+{
+    HtmlFixture f("SURVEY");
+    f.s.build.values.IntroLines.push("Hello");
+    f.s.build.values.IntroLines.push("World");
+    html::WriteSurveyHeading(f.s, "Hello\\nWorld", "no", "SURVEY INTRO");
+    EXPECT_EQ(f.Output(), Lines({R"(<font color="000000" face="arial" size="3">)", R"(<p align="left">)", "Hello",
+                                 "<br>World", "</font></p>", ""}));
+}
+
+TEST(ShadeTable, WritesNothingInForm)
+{
+    HtmlFixture f("FORM");
+    html::WriteShadeOpen(f.s);
+    html::WriteShadeClose(f.s);
+    EXPECT_EQ(f.Output(), "");
+    HtmlFixture g("SURVEY");
+    html::WriteShadeClose(g.s);
+    EXPECT_EQ(g.Output(), Lines({"</td></tr></table></center></div>", "<br>"}));
+}
