@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "php/entry_php.h"
+#include "php/script_skeleton.h"
+#include "scripted_port.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+
+using namespace tq;
+
+namespace {
+
+std::string Golden(const std::string& name)
+{
+    return test::ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/php/" + name + "/expected.php");
+}
+
+struct Script
+{
+    test::TempDir dir;
+    std::unique_ptr<build::BuildState> state = std::make_unique<build::BuildState>();
+    std::string phpPath() const { return dir.file("formtql.php"); }
+
+    Script()
+    {
+        state->phpPath = phpPath();
+        state->setupValues.EMAIL1 = "a@example.com";
+        state->setupValues.FROM = "forms";
+        state->setupValues.COMPLETED = "https://www.tarnquill.example/thanks.htm";
+    }
+    std::string dataFolder() const { return dir.path(); }
+    void message(std::initializer_list<std::string> slots)
+    {
+        for (const std::string& s : slots)
+            state->messageLines[static_cast<size_t>(++state->messageLineCount)] = s;
+    }
+    // The whole pass: head, nothing per entry, body; returns the script.
+    std::string run()
+    {
+        EXPECT_TRUE(php::WriteScriptHead(*state, dataFolder()));
+        state->channels[2].close();
+        EXPECT_TRUE(php::WriteScriptBody(*state, dataFolder(), ""));
+        state->channels.closeAll();
+        return test::ReadFileBytes(phpPath());
+    }
+};
+
+// The lines between "$ip" and "End of message", CR LF kept.
+std::string MessagePart(const std::string& script)
+{
+    const std::string from = "$ip\r\n\r\n";
+    size_t b = script.find(from);
+    size_t e = script.find("End of message\r\n");
+    EXPECT_NE(b, std::string::npos);
+    EXPECT_NE(e, std::string::npos);
+    return script.substr(b + from.size(), e - b - from.size());
+}
+
+void Entry(test::ScriptedPort& ui,
+           build::BuildState& st,
+           const std::string& type,
+           const std::string& key,
+           const std::string& req,
+           const std::string& msg,
+           const std::string& msg2 = "",
+           const std::string& password = "",
+           const std::string& title = "T")
+{
+    st.values = build::WorkingValues{};
+    st.values.REQ = req;
+    st.values.MSG = msg;
+    st.values.MSG2 = msg2;
+    st.values.PASSWORD = password;
+    st.values.Title = title;
+    php::WriteEntryPhp(ui, st, type, key);
+}
+
+} // namespace
+
+TEST(PhpSkeleton, WholeScriptMatchesGolden)
+{
+    Script s;
+    build::BuildState& st = *s.state;
+    st.setupValues.EMAIL2 = "none";
+    st.setupValues.EMAIL3 = "c@example.com";
+    st.setupValues.NumberEachQuestion = "yes";
+    st.mailSubject = "General Question";
+    st.optionPending = true;
+    s.message({"1. Name&nbsp;&nbsp;", "name3", "2. Your e-mail\\nplease", "email5", "\\nTable B. Colour", "-Thanks",
+               "4. Comments", "   ", "5. Last", ""});
+    st.downloadTextCount = 2;
+    st.downloadTexts[1] = "PASSWORD IS CORRECT";
+    st.downloadTexts[2] = "Right mouse click on each file";
+    st.downloadFileCount = 2;
+    st.downloadFiles[1] = "a.zip";
+    st.downloadFiles[2] = "b.pdf";
+    st.homePage = "https://www.tarnquill.example/index.htm";
+
+    test::ScriptedPort ui;
+    ASSERT_TRUE(php::WriteScriptHead(st, s.dataFolder()));
+    Entry(ui, st, "Name", "name3", "yes", "Please enter your name");
+    Entry(ui, st, "EMAIL", "email5", "YES", "Invalid e-mail", "No e-mail");
+    Entry(ui, st, "Condition With Comment", "condi7", "yes", "Answer yes or no");
+    Entry(ui, st, "FOLLOWUP WITH COMMENT", "follo9", "no", "Tell us more");
+    Entry(ui, st, "CANCEL BUTTON", "cance11", "", "");
+    Entry(ui, st, "CHECKBOX HORIZONTAL", "check13", "no", "Tick one");
+    Entry(ui, st, "DOWNLOAD FILES WITH PASSWORD", "downl15", "no", "x", "y", "", "Files");
+    Entry(ui, st, "FOLLOWUP FILES WITH PASSWORD", "follo17", "", "Wrong password", "Enter the password", "Secret");
+    Entry(ui, st, "TITLE 1 SINGLE LINE", "title19", "", "");
+    Entry(ui, st, "PASSWORD", "passw21", "yes", "Wrong", "Empty", "Pw1");
+    st.values.USERNAME = "";
+    ASSERT_EQ(st.buildError, 0);
+    st.channels[2].close();
+    ASSERT_TRUE(php::WriteScriptBody(st, s.dataFolder(), "https://www.tarnquill.example/files/"));
+    st.channels.closeAll();
+    EXPECT_TRUE(ui.shown.empty());
+    EXPECT_EQ(test::ReadFileBytes(s.phpPath()), Golden("full_script"));
+}
+
+TEST(PhpSkeleton, RecipientsLeaveOutNoneAndEmpty)
+{
+    auto toLine = [](const std::string& e2, const std::string& e3) {
+        Script s;
+        s.state->setupValues.EMAIL2 = e2;
+        s.state->setupValues.EMAIL3 = e3;
+        std::string script = s.run();
+        size_t b = script.find("$to  = ");
+        return script.substr(b, script.find("\r\n", b) - b);
+    };
+    EXPECT_EQ(toLine("NONE", "b"), "$to  = \"a@example.com,b\";");
+    EXPECT_EQ(toLine("", "nOnE"), "$to  = \"a@example.com\";");
+    EXPECT_EQ(toLine("x@y.z", ""), "$to  = \"a@example.com,x@y.z\";");
+    EXPECT_EQ(toLine("x@y.z", "b"), "$to  = \"a@example.com,x@y.z,b\";");
+}
+
+TEST(PhpSkeleton, EmptyMessageTableEndsRightAfterTheAddress)
+{
+    Script s;
+    std::string script = s.run();
+    EXPECT_NE(script.find("Send from public IP Address\r\n$ip\r\n\r\nEnd of message\r\n\";\r\n"), std::string::npos);
+    // no $option lines unless asked for, and the empty scratch file adds nothing
+    EXPECT_EQ(script.find("$option"), std::string::npos);
+    EXPECT_NE(script.find("/*******************/\r\n\r\n\r\n/***********************************/\r\n/* Get Public"),
+              std::string::npos);
+}
+
+TEST(PhpSkeleton, MessageLabelsAndValues)
+{
+    Script s;
+    s.message({"a\\n\\nb", "-", "\\n\\nx&nb&nbsp;sp;y", "-Fixed text", "tab b.", " v ", "&NBSP;", ""});
+    std::string body = MessagePart(s.run());
+    EXPECT_EQ(body,
+              "a\r\n\r\nb\r\n" // a later "\n" becomes a line break, twice
+              "\r\n"           // "-" alone is written as an empty text ...
+              "\r\n"           // ... and, not being empty, followed by an empty line
+              "xy\r\n"         // leading "\n"s dropped; "&nbsp;" removed until none is left
+              "Fixed text\r\n\r\n"
+              "tab b.\r\n\r\n" // "B." in any case adds an empty line
+              "$ v \r\n\r\n"   // a value with text is a variable, written untrimmed
+              "&NBSP;\r\n"     // the search is case-sensitive
+              "\r\n");         // an empty value is written as it is, with nothing after it
+}
+
+TEST(PhpSkeleton, OddCountReadsTheEmptySlotAndBoundIsChecked)
+{
+    Script s;
+    s.message({"Only a label"});
+    EXPECT_EQ(MessagePart(s.run()), "Only a label\r\n\r\n");
+
+    build::BuildState st;
+    st.messageLineCount = build::kMessageLineSlots + 1;
+    test::TempDir dir;
+    build::LineWriter out;
+    ASSERT_TRUE(out.open(dir.file("x.php")));
+    EXPECT_THROW(php::WriteMessageBody(out, st), model::InternalError);
+}
+
+TEST(PhpSkeleton, DownloadChecksAreCopiedBehindTheOptionLines)
+{
+    Script s;
+    s.state->optionPending = true;
+    ASSERT_TRUE(php::WriteScriptHead(*s.state, s.dataFolder()));
+    s.state->channels[1].line("$name3 = $_POST[\"name3\"];");
+    s.state->channels[2].close();
+    // lines ended by CR LF, a lone LF, a lone CR, and a last line without an end
+    test::WriteFileBytes(s.dir.file("downtemp.txt"), "one\r\ntwo\nthree\rfour");
+    ASSERT_TRUE(php::WriteScriptBody(*s.state, s.dataFolder(), ""));
+    s.state->channels.closeAll();
+    std::string script = test::ReadFileBytes(s.phpPath());
+    EXPECT_NE(script.find("$name3 = $_POST[\"name3\"];\r\n\r\n$option = $_POST['option'];\r\n"
+                          "$drop_down = $_POST['drop_down'];\r\none\r\ntwo\r\nthree\r\nfour\r\n\r\n/****"),
+              std::string::npos);
+}
+
+TEST(PhpSkeleton, SubjectFromAndCompletedAreWrittenAsTheyStand)
+{
+    Script s;
+    s.state->mailSubject = "Say \"hi\"";
+    s.state->setupValues.FROM = "me";
+    std::string script = s.run();
+    // no escaping: a quote in the subject breaks the script, as it always did
+    EXPECT_NE(script.find("$subject=\"Say \"hi\"\";\r\n"), std::string::npos);
+    EXPECT_NE(script.find("$headers=\"from: me@\\r\\n\";\r\n"), std::string::npos);
+    EXPECT_NE(script.find("$message = \"A message has been submitted from\r\nme@\r\n"), std::string::npos);
+    EXPECT_NE(script.find("header(\"Location: https://www.tarnquill.example/thanks.htm\");\r\n\r\nexit();\r\n\r\n/**"),
+              std::string::npos);
+}
+
+TEST(PhpSkeleton, FilesThatCannotBeOpenedAreReported)
+{
+    Script s;
+    s.state->phpPath = s.dir.file("no/such/folder/x.php");
+    EXPECT_FALSE(php::WriteScriptHead(*s.state, s.dataFolder()));
+    EXPECT_FALSE(s.state->channels[1].isOpen());
+
+    Script t;
+    ASSERT_TRUE(t.state->channels[1].open(t.phpPath()));
+    EXPECT_FALSE(php::WriteScriptBody(*t.state, t.dir.file("missing"), ""));
+}
