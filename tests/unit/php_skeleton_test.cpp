@@ -15,6 +15,8 @@ std::string Golden(const std::string& name)
     return test::ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/php/" + name + "/expected.php");
 }
 
+// Plays the driver's part: the script on channel 1, the download checks on
+// channel 2, copied in behind the option lines.
 struct Script
 {
     test::TempDir dir;
@@ -23,25 +25,36 @@ struct Script
 
     Script()
     {
-        state->phpPath = phpPath();
         state->setupValues.EMAIL1 = "a@example.com";
         state->setupValues.FROM = "forms";
         state->setupValues.COMPLETED = "https://www.tarnquill.example/thanks.htm";
     }
-    std::string dataFolder() const { return dir.path(); }
     void message(std::initializer_list<std::string> slots)
     {
         for (const std::string& s : slots)
             state->messageLines[static_cast<size_t>(++state->messageLineCount)] = s;
     }
-    // The whole pass: head, nothing per entry, body; returns the script.
-    std::string run()
+    void head()
     {
-        EXPECT_TRUE(php::WriteScriptHead(*state, dataFolder()));
+        ASSERT_TRUE(state->channels[1].open(phpPath()));
+        php::WriteScriptOpening(state->channels[1]);
+        ASSERT_TRUE(state->channels[2].open(dir.file("downtemp.txt")));
+        php::WriteValidationBanner(state->channels[1], state->setupValues);
+    }
+    std::string tail(std::string_view serverPath = "")
+    {
         state->channels[2].close();
-        EXPECT_TRUE(php::WriteScriptBody(*state, dataFolder(), ""));
+        if (state->optionPending)
+            php::WriteOptionLines(state->channels[1]);
+        state->channels[1].piece(test::ReadFileBytes(dir.file("downtemp.txt")));
+        php::WriteScriptTail(state->channels[1], *state, serverPath);
         state->channels.closeAll();
         return test::ReadFileBytes(phpPath());
+    }
+    std::string run()
+    {
+        head();
+        return tail();
     }
 };
 
@@ -97,7 +110,7 @@ TEST(PhpSkeleton, WholeScriptMatchesGolden)
     st.homePage = "https://www.tarnquill.example/index.htm";
 
     test::ScriptedPort ui;
-    ASSERT_TRUE(php::WriteScriptHead(st, s.dataFolder()));
+    s.head();
     Entry(ui, st, "Name", "name3", "yes", "Please enter your name");
     Entry(ui, st, "EMAIL", "email5", "YES", "Invalid e-mail", "No e-mail");
     Entry(ui, st, "Condition With Comment", "condi7", "yes", "Answer yes or no");
@@ -110,11 +123,9 @@ TEST(PhpSkeleton, WholeScriptMatchesGolden)
     Entry(ui, st, "PASSWORD", "passw21", "yes", "Wrong", "Empty", "Pw1");
     st.values.USERNAME = "";
     ASSERT_EQ(st.buildError, 0);
-    st.channels[2].close();
-    ASSERT_TRUE(php::WriteScriptBody(st, s.dataFolder(), "https://www.tarnquill.example/files/"));
-    st.channels.closeAll();
+    std::string script = s.tail("https://www.tarnquill.example/files/");
     EXPECT_TRUE(ui.shown.empty());
-    EXPECT_EQ(test::ReadFileBytes(s.phpPath()), Golden("full_script"));
+    EXPECT_EQ(script, Golden("full_script"));
 }
 
 TEST(PhpSkeleton, RecipientsLeaveOutNoneAndEmpty)
@@ -138,7 +149,6 @@ TEST(PhpSkeleton, EmptyMessageTableEndsRightAfterTheAddress)
     Script s;
     std::string script = s.run();
     EXPECT_NE(script.find("Send from public IP Address\r\n$ip\r\n\r\nEnd of message\r\n\";\r\n"), std::string::npos);
-    // no $option lines unless asked for, and the empty scratch file adds nothing
     EXPECT_EQ(script.find("$option"), std::string::npos);
     EXPECT_NE(script.find("/*******************/\r\n\r\n\r\n/***********************************/\r\n/* Get Public"),
               std::string::npos);
@@ -175,23 +185,6 @@ TEST(PhpSkeleton, OddCountReadsTheEmptySlotAndBoundIsChecked)
     EXPECT_THROW(php::WriteMessageBody(out, st), model::InternalError);
 }
 
-TEST(PhpSkeleton, DownloadChecksAreCopiedBehindTheOptionLines)
-{
-    Script s;
-    s.state->optionPending = true;
-    ASSERT_TRUE(php::WriteScriptHead(*s.state, s.dataFolder()));
-    s.state->channels[1].line("$name3 = $_POST[\"name3\"];");
-    s.state->channels[2].close();
-    // lines ended by CR LF, a lone LF, a lone CR, and a last line without an end
-    test::WriteFileBytes(s.dir.file("downtemp.txt"), "one\r\ntwo\nthree\rfour");
-    ASSERT_TRUE(php::WriteScriptBody(*s.state, s.dataFolder(), ""));
-    s.state->channels.closeAll();
-    std::string script = test::ReadFileBytes(s.phpPath());
-    EXPECT_NE(script.find("$name3 = $_POST[\"name3\"];\r\n\r\n$option = $_POST['option'];\r\n"
-                          "$drop_down = $_POST['drop_down'];\r\none\r\ntwo\r\nthree\r\nfour\r\n\r\n/****"),
-              std::string::npos);
-}
-
 TEST(PhpSkeleton, SubjectFromAndCompletedAreWrittenAsTheyStand)
 {
     Script s;
@@ -204,16 +197,4 @@ TEST(PhpSkeleton, SubjectFromAndCompletedAreWrittenAsTheyStand)
     EXPECT_NE(script.find("$message = \"A message has been submitted from\r\nme@\r\n"), std::string::npos);
     EXPECT_NE(script.find("header(\"Location: https://www.tarnquill.example/thanks.htm\");\r\n\r\nexit();\r\n\r\n/**"),
               std::string::npos);
-}
-
-TEST(PhpSkeleton, FilesThatCannotBeOpenedAreReported)
-{
-    Script s;
-    s.state->phpPath = s.dir.file("no/such/folder/x.php");
-    EXPECT_FALSE(php::WriteScriptHead(*s.state, s.dataFolder()));
-    EXPECT_FALSE(s.state->channels[1].isOpen());
-
-    Script t;
-    ASSERT_TRUE(t.state->channels[1].open(t.phpPath()));
-    EXPECT_FALSE(php::WriteScriptBody(*t.state, t.dir.file("missing"), ""));
 }

@@ -5,10 +5,7 @@
 #include "php/error_download_pages.h"
 #include "php/function_library.h"
 #include "php/php_text.h"
-#include "port/platform.h"
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
 namespace tq::php {
@@ -26,43 +23,16 @@ bool IsRecipient(const std::string& email)
     return !email.empty() && Upper(email) != "NONE";
 }
 
-// Copies every line of `path` to `out`; a line ends at CR LF, LF or a lone CR.
-bool CopyLines(const std::string& path, build::LineWriter& out)
-{
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-        return false;
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    size_t pos = 0;
-    while (pos < bytes.size()) {
-        size_t end = bytes.find_first_of("\r\n", pos);
-        if (end == std::string::npos) {
-            out.line(std::string_view(bytes).substr(pos));
-            break;
-        }
-        out.line(std::string_view(bytes).substr(pos, end - pos));
-        pos = end + ((bytes[end] == '\r' && end + 1 < bytes.size() && bytes[end + 1] == '\n') ? 2 : 1);
-    }
-    return true;
-}
-
 } // namespace
 
-bool WriteScriptHead(build::BuildState& state, std::string_view dataFolder)
+void WriteScriptOpening(build::LineWriter& out)
 {
-    build::LineWriter& out = state.channels[1];
-    if (!out.open(state.phpPath)) {
-        state.channels.closeAll();
-        return false;
-    }
     out.line("<?php");
     out.line("");
-    if (!state.channels[2].open(platform::JoinPath(dataFolder, kDownTempFile))) {
-        state.channels.closeAll();
-        return false;
-    }
+}
 
-    const build::SetupValues& setup = state.setupValues;
+void WriteValidationBanner(build::LineWriter& out, const build::SetupValues& setup)
+{
     std::string to = "$to  = \"" + setup.EMAIL1;
     if (IsRecipient(setup.EMAIL2))
         to += "," + setup.EMAIL2;
@@ -81,7 +51,11 @@ bool WriteScriptHead(build::BuildState& state, std::string_view dataFolder)
                         "/*******************/",
                         "",
                     });
-    return true;
+}
+
+void WriteOptionLines(build::LineWriter& out)
+{
+    WriteLines(out, {"", "$option = $_POST['option'];", "$drop_down = $_POST['drop_down'];"});
 }
 
 void WriteMessageBody(build::LineWriter& out, const build::BuildState& state)
@@ -116,14 +90,8 @@ void WriteMessageBody(build::LineWriter& out, const build::BuildState& state)
     }
 }
 
-bool WriteScriptBody(build::BuildState& state, std::string_view dataFolder, std::string_view serverPath)
+void WriteScriptTail(build::LineWriter& out, const build::BuildState& state, std::string_view serverPath)
 {
-    build::LineWriter& out = state.channels[1];
-    if (state.optionPending)
-        WriteLines(out, {"", "$option = $_POST['option'];", "$drop_down = $_POST['drop_down'];"});
-    if (!CopyLines(platform::JoinPath(dataFolder, kDownTempFile), out))
-        return false;
-
     const build::SetupValues& setup = state.setupValues;
     WriteLines(out, {
                         "",
@@ -189,7 +157,6 @@ bool WriteScriptBody(build::BuildState& state, std::string_view dataFolder, std:
     WriteFunctionLibrary(out);
     WriteDownloadFile(out, state, serverPath);
     WriteShowError(out);
-    return true;
 }
 
 } // namespace tq::php

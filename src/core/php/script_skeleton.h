@@ -7,24 +7,26 @@
 
 namespace tq::php {
 
-/// The scratch file of the download checks, in the DataFolder.
-inline constexpr std::string_view kDownTempFile = "\\downtemp.txt";
+// The fixed parts of the script, in the order of the PHP pass. The driver
+// opens the files and copies the download checks of `\downtemp.txt` in
+// between; these only write lines.
 
-/// Starts the PHP pass: opens `phpPath` for output on channel 1 and writes
-/// "<?php", opens the DataFolder's `\downtemp.txt` for output on channel 2,
-/// then writes the recipients line (EMAIL2 and EMAIL3 left out when empty or
-/// "NONE") and the "Validation Code" banner on channel 1. Returns false, with
-/// every channel closed, when a file cannot be opened.
-bool WriteScriptHead(build::BuildState& state, std::string_view dataFolder);
+/// The opening: "<?php" and an empty line.
+void WriteScriptOpening(build::LineWriter& out);
 
-/// Ends the script on channel 1 after the per-entry lines; channel 2 has been
-/// closed. Writes the `$option` lines when `optionPending`, copies
-/// `\downtemp.txt` line by line (so the download checks stand behind all
-/// others), then the date, headers, subject, the message from `messageLines`,
-/// the mail and redirect, the function library, download_file (links under
-/// `serverPath`) and show_error. Returns false when `\downtemp.txt` cannot be
-/// read; throws model::InternalError when a table count passes its bound.
-bool WriteScriptBody(build::BuildState& state, std::string_view dataFolder, std::string_view serverPath);
+/// The recipients line, EMAIL2 and EMAIL3 each left out when empty or "NONE",
+/// and the "Validation Code" banner under which the per-entry checks follow.
+void WriteValidationBanner(build::LineWriter& out, const build::SetupValues& setup);
+
+/// The "$option" and "$drop_down" lines, written when `optionPending` is set.
+void WriteOptionLines(build::LineWriter& out);
+
+/// Everything behind the download checks: date, headers, subject
+/// (`mailSubject`), the message from `messageLines`, mail and redirect to
+/// COMPLETED, the function library, download_file (links under `serverPath`)
+/// and show_error, whose last line closes the script. Throws
+/// model::InternalError when a table count passes its bound.
+void WriteScriptTail(build::LineWriter& out, const build::BuildState& state, std::string_view serverPath);
 
 /// Writes the e-mail body from `messageLines`, two slots per field: the label
 /// (a backslash-n makes a line break, or is dropped at the very start; every
