@@ -3,6 +3,7 @@
 
 #include "build/line_writer.h"
 #include "build/working_values.h"
+#include "model/entry_store.h"
 
 #include <array>
 #include <string>
@@ -50,6 +51,15 @@ struct BuildState
     /// in the HTML pass of a FORM. Not reset per build: a list without SUBJECT
     /// keeps the subject of the last build of this run.
     std::string mailSubject;
+
+    // the flat list of the build: slot 2k-1 the Input Type, slot 2k the AttributeText
+    std::array<std::string, model::kMaxFlatLines + 1> flatList;
+    int listLength = 0;
+
+    bool FrameOpened = false; // the frame tables are written at most once per build
+    int lastPhpSlot = 0;      // the last slot the PHP pass handled; kept from build to build
+    bool inProgress = false;  // the in-progress flags of the driver
+    bool endProgram = false;  // a fatal file fault: the shell ends the program after its box
 
     bool passActive = false; // the pass flag of the driver
     int pass = 0;            // 1 HTML pass, 2 PHP pass

@@ -1,0 +1,513 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "build/build_driver.h"
+
+#include "build/php_pass.h"
+#include "html/dispatch.h"
+#include "html/page_shell.h"
+#include "port/platform.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+namespace tq::build {
+
+namespace {
+
+std::string Upper(std::string_view s)
+{
+    std::string out(s);
+    std::transform(out.begin(), out.end(), out.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    return out;
+}
+
+std::string Lower(std::string_view s)
+{
+    std::string out(s);
+    std::transform(out.begin(), out.end(), out.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return out;
+}
+
+std::string Trim(std::string_view s)
+{
+    size_t a = s.find_first_not_of(' ');
+    if (a == std::string_view::npos)
+        return {};
+    size_t e = s.find_last_not_of(' ');
+    return std::string(s.substr(a, e - a + 1));
+}
+
+bool EndsInSeparator(std::string_view folder)
+{
+    return !folder.empty() && (folder.back() == '/' || folder.back() == '\\');
+}
+
+// "Leave": every file closed, the pointer restored, the in-progress flags cleared.
+void Leave(Session& s, UiPort& ui)
+{
+    s.build.channels.closeAll();
+    s.build.inProgress = false;
+    s.store.state.SwitchInProgress = false;
+    ui.setBusy(false);
+}
+
+// ---------------------------------------------------------------------------
+// Steps that belong to other parts of the build. Each is a small named call so
+// that the order of the driver stays readable.
+
+// The silent reorder of the Pages by their reference numbers; its faults set
+// buildError. The flat list is gathered again afterwards.
+void ReorderForBuild(Session&, UiPort&) {}
+
+// Normalises the SetupEntry's text and reads it into setupValues with its
+// checks (setupHold, buildError).
+void ReadSetupForBuild(Session&, UiPort&, const std::string&, const std::string&) {}
+
+// Takes the user back to the faulty Entry of `slot`.
+void ReportFaultAt(Session&, UiPort&, int) {}
+
+// The fatal report of an Input Type outside the catalogue at `slot`.
+void ReportUnknownAt(Session&, UiPort&, int) {}
+
+// The field name of the Entry in `slot`: the first five characters of the
+// Input Type and the slot, trimmed and lower-cased.
+std::string FieldNameAt(std::string_view inputType, int slot)
+{
+    std::string name = std::string(inputType.substr(0, 5)) + std::to_string(slot);
+    return Lower(Trim(name));
+}
+
+// The publishing instructions of a finished build.
+void ShowInstructions(Session&, UiPort& ui)
+{
+    ui.showView(View::FinalPage);
+}
+
+// ---------------------------------------------------------------------------
+
+void ClearHighlights(model::EntryStore& store)
+{
+    if (store.state.PreviewFromEdit)
+        return;
+    for (auto& page : store.pages)
+        for (auto& e : page)
+            e.highlight = model::Highlight::None;
+}
+
+void ResetBuildCounters(BuildState& b)
+{
+    b.questionNumber = 0;
+    b.messageLineCount = 0;
+    b.downloadTextCount = 0;
+    b.downloadFileCount = 0;
+    b.FrameOpened = false;
+    b.values.ButtonName.clear();
+}
+
+void ShowPathError(UiPort& ui, const std::string& folder)
+{
+    ui.message(
+        "The path to the current web folder does not exist\r\rPath: " + folder +
+            "   does not exist\r\rThe invalid path will now be highlighted. Please correct the error and try again",
+        "PATH ERROR", Icon::Critical);
+    ui.openEditPage(1, 0, "DRIVE FOLDER PATH");
+}
+
+// Opening an existing file for input proves it is there; a missing file is
+// created empty. Returns false after the fatal box when neither works.
+bool TouchHtmlFile(BuildState& b, UiPort& ui)
+{
+    std::error_code ec;
+    if (std::filesystem::exists(b.htmlPath, ec)) {
+        std::ifstream in(b.htmlPath, std::ios::binary);
+        if (in.is_open())
+            return true;
+    } else {
+        std::ofstream out(b.htmlPath, std::ios::binary);
+        if (out.is_open())
+            return true;
+    }
+    const int code = errno;
+    ui.message(std::string(std::strerror(code != 0 ? code : EACCES)) + " when opening " + b.htmlPath,
+               "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+    b.endProgram = true;
+    return false;
+}
+
+bool FileReadable(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return in.is_open();
+}
+
+// Copies every line of `from` onto channel 1 as it stands.
+void CopyLines(BuildState& b, const std::string& from)
+{
+    std::ifstream in(from, std::ios::binary);
+    std::string line;
+    while (std::getline(in, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        b.channels[1].line(line);
+    }
+}
+
+void DispatchList(Session& s, UiPort& ui, int pass)
+{
+    auto& b = s.build;
+    for (int i = 1; i + 1 <= b.listLength; i += 2) {
+        const std::string inputType = b.flatList.at(static_cast<size_t>(i));
+        const std::string text = b.flatList.at(static_cast<size_t>(i + 1));
+        if (pass == 2)
+            b.lastPhpSlot = i;
+        html::DispatchEntry(s, ui, pass, FieldNameAt(inputType, i), inputType, text);
+        if (b.buildError == 1) {
+            ReportFaultAt(s, ui, i);
+            return;
+        }
+        if (b.buildError == 5) {
+            b.buildError = 1;
+            b.channels.closeAll();
+            ReportUnknownAt(s, ui, i);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+std::string ComposeHtmlPath(std::string_view webFolder, std::string_view outputName)
+{
+    std::string path(webFolder);
+    if (!EndsInSeparator(webFolder))
+        path += platform::kSeparator;
+    path += outputName;
+    return path;
+}
+
+std::string ComposeFormAction(std::string_view outputName)
+{
+    const size_t pos = Upper(outputName).find(".HTM");
+    const size_t cut = pos == std::string::npos ? 0 : pos + 1;
+    return std::string(outputName.substr(0, cut)) + "php";
+}
+
+std::string ComposePhpPath(std::string_view webFolder, std::string_view outputName)
+{
+    return std::string(webFolder) + platform::kSeparator + ComposeFormAction(outputName);
+}
+
+std::string PeekDriveFolderPath(std::string_view setupText)
+{
+    static constexpr std::string_view kKey = "[DRIVE FOLDER PATH=";
+    const size_t pos = Upper(setupText).find(kKey);
+    if (pos == std::string::npos)
+        return {};
+    const size_t start = pos + kKey.size();
+    const size_t end = setupText.find_first_of("]\r\n", start);
+    return std::string(setupText.substr(start, end == std::string_view::npos ? end : end - start));
+}
+
+bool FolderTest(std::string_view webFolder)
+{
+    const std::string path = platform::JoinPath(webFolder, "\\temp.ttt");
+    {
+        std::ofstream out(path, std::ios::binary | std::ios::trunc);
+        if (!out.is_open())
+            return false;
+        out.close();
+        if (out.fail())
+            return false;
+    }
+    std::error_code ec;
+    return std::filesystem::remove(path, ec) && !ec;
+}
+
+void GatherFlatList(const model::EntryStore& store, BuildState& b)
+{
+    b.listLength = 0;
+    for (auto& slot : b.flatList)
+        slot.clear();
+    for (const auto& page : store.pages)
+        for (const auto& e : page) {
+            if (Trim(e.InputTypeName).empty())
+                continue;
+            b.flatList.at(static_cast<size_t>(b.listLength + 1)) = e.InputTypeName;
+            b.flatList.at(static_cast<size_t>(b.listLength + 2)) = e.AttributeText;
+            b.listLength += 2;
+        }
+}
+
+void CreateHTMHeader(Session& s, UiPort& ui, int& abort)
+{
+    auto& b = s.build;
+    const auto& setupRow = s.store.pages[0][0];
+    ReadSetupForBuild(s, ui, setupRow.InputTypeName, setupRow.AttributeText);
+    if (b.buildError == 1 || b.setupHold)
+        return;
+
+    if (b.entryPreview || b.editPreview) {
+        b.htmlPath = platform::JoinPath(s.DataFolder, "\\Preview.htm");
+        b.phpPath = platform::JoinPath(s.DataFolder, "\\Preview.php");
+        b.formAction.clear();
+    } else {
+        const auto& setup = b.setupValues;
+        b.htmlPath = ComposeHtmlPath(setup.WebFolder, setup.OutputName);
+        b.channels.closeAll();
+        if (!TouchHtmlFile(b, ui)) {
+            abort = 1;
+            return;
+        }
+        if (b.reminderCounter <= 1)
+            abort = 0;
+        b.phpPath = ComposePhpPath(setup.WebFolder, setup.OutputName);
+        b.formAction = ComposeFormAction(setup.OutputName);
+        b.channels.closeAll();
+        // A missing script means there is nothing to replace: no questions.
+        // The retries of this check are counted per header; the first one
+        // already goes on, so the fatal branch behind five never comes.
+        int retries = 0;
+        if (!FileReadable(b.phpPath))
+            ++retries;
+        if (retries > 5) {
+            ui.message("Unable to recover in sub CreateHTMHeader", "ERROR", Icon::Critical);
+            b.endProgram = true;
+            abort = 1;
+            return;
+        }
+        if (retries == 0 && b.reminderCounter <= 1) {
+            const Answer folder =
+                ui.ask(setup.WebFolder + "\r is the current folder where all the files that Tarnquill "
+                                         "creates will be stored\r\rDo you want to change the folder path?",
+                       "EDIT SETUP", Buttons::YesNoCancel, Icon::Question, 2);
+            b.cancelled = false;
+            if (folder == Answer::Yes) {
+                b.folderJump = 2;
+                abort = 1;
+                return;
+            }
+            if (folder == Answer::Cancel) {
+                b.cancelled = true;
+                ui.setBusy(false);
+                b.channels.closeAll();
+                return;
+            }
+            const Answer replace = ui.ask(b.phpPath + "\r and \r" + b.htmlPath +
+                                              "\r exist\r\rThese are output files that Tarnquill previously "
+                                              "created.\r\rDo you want to replace them with the new created "
+                                              "Tarnquill output files?",
+                                          "Duplicate File", Buttons::YesNo, Icon::Question, 1);
+            abort = 0;
+            if (replace != Answer::Yes) {
+                ui.message("Change " + b.phpPath + " in setup and try again", "CHANGE FILE", Icon::Exclamation);
+                abort = 1;
+                return;
+            }
+        }
+    }
+
+    b.channels.closeAll();
+    if (!b.channels[1].open(b.htmlPath)) {
+        ui.message(std::string(std::strerror(errno != 0 ? errno : EACCES)) + " when opening " + b.htmlPath,
+                   "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+        b.endProgram = true;
+        abort = 1;
+        return;
+    }
+    html::WritePageHead(s);
+}
+
+void HtmlPass(Session& s, UiPort& ui)
+{
+    auto& b = s.build;
+    int abort = 0;
+    CreateHTMHeader(s, ui, abort);
+    if (b.setupHold || b.cancelled)
+        return;
+    if (abort == 1 || b.buildError == 1) {
+        b.buildError = 1;
+        return;
+    }
+    if (b.entryPreview) {
+        // the Entry under preview, and the Followup generated behind it
+        for (const auto& slot : s.store.state.PreviewSlots) {
+            if (slot.InputTypeName.empty())
+                continue;
+            html::DispatchEntry(s, ui, 1, Lower(slot.InputTypeName) + "1", slot.InputTypeName, slot.AttributeText);
+            if (b.buildError == 5)
+                b.buildError = 1;
+            if (b.buildError == 1)
+                return;
+        }
+        return;
+    }
+    DispatchList(s, ui, 1);
+}
+
+void PhpPass(Session& s, UiPort& ui)
+{
+    auto& b = s.build;
+    b.optionPending = false;
+    b.pass = 2;
+    b.channels.closeAll();
+    const std::string downTemp = platform::JoinPath(s.DataFolder, "\\downtemp.txt");
+    if (!b.channels[1].open(b.phpPath)) {
+        ui.message(std::string(std::strerror(errno != 0 ? errno : EACCES)) + " when opening " + b.phpPath,
+                   "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+        b.buildError = 1;
+        return;
+    }
+    WriteScriptHead(s, ui);
+    if (!b.channels[2].open(downTemp)) {
+        ui.message(std::string(std::strerror(errno != 0 ? errno : EACCES)) + " when opening " + downTemp,
+                   "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+        b.buildError = 1;
+        return;
+    }
+    WriteValidationBanner(s, ui);
+    DispatchList(s, ui, 2);
+    b.channels[2].close();
+    if (b.buildError == 1)
+        return;
+    if (b.optionPending)
+        WriteOptionLines(s, ui);
+    CopyLines(b, downTemp);
+    WriteScriptTail(s, ui);
+}
+
+void BuildOutput(Session& s, UiPort& ui, int mode)
+{
+    auto& b = s.build;
+    try {
+        // 1
+        b.buildError = 0;
+        ui.setBusy(true);
+        if (mode == 1) {
+            b.entryPreview = false;
+            b.editPreview = false;
+        }
+        b.inProgress = true;
+        s.store.state.SwitchInProgress = true;
+
+        // 2: the folder as it stands in the SetupEntry, before that is read
+        if (!b.entryPreview) {
+            b.channels[1].close();
+            const std::string folder = PeekDriveFolderPath(s.store.pages[0][0].AttributeText);
+            if (!FolderTest(folder)) {
+                b.channels.closeAll();
+                ShowPathError(ui, folder);
+                b.buildError = 1;
+                Leave(s, ui);
+                return;
+            }
+        }
+
+        // 3
+        ClearHighlights(s.store);
+        ResetBuildCounters(b);
+
+        // 4
+        if (!b.entryPreview)
+            GatherFlatList(s.store, b);
+
+        // 5
+        b.passActive = true;
+        b.pass = 1;
+        b.lastConditionField.clear();
+        b.buildError = 0;
+        for (auto& t : b.downloadTexts)
+            t.clear();
+        if (!b.entryPreview) {
+            ReorderForBuild(s, ui);
+            GatherFlatList(s.store, b);
+        }
+
+        // 6 to 8
+        if (b.buildError == 0)
+            HtmlPass(s, ui);
+
+        // 9
+        if (b.setupHold || b.cancelled) {
+            b.passActive = false;
+            Leave(s, ui);
+            return;
+        }
+        if (b.buildError == 1) {
+            b.channels.closeAll();
+            b.passActive = false;
+            if (b.folderJump > 0)
+                ui.openEditPage(1, 0, "DRIVE FOLDER PATH");
+            b.folderJump = 0;
+            Leave(s, ui);
+            return;
+        }
+
+        // 10
+        html::WritePageClose(s, b.setupValues.SubmitName);
+        b.channels.closeAll();
+        if (b.entryPreview) {
+            b.passActive = false;
+            Leave(s, ui);
+            return;
+        }
+
+        // 11 to 13
+        PhpPass(s, ui);
+        if (b.buildError == 1) {
+            b.passActive = false;
+            Leave(s, ui);
+            return;
+        }
+
+        // 14
+        b.channels.closeAll();
+        b.passActive = false;
+        if (!b.editPreview)
+            ShowInstructions(s, ui);
+        Leave(s, ui);
+    } catch (const model::InternalError& e) {
+        b.channels.closeAll();
+        b.buildError = 1;
+        b.passActive = false;
+        ui.message(e.what(), "INTERNAL ERROR", Icon::Critical);
+        Leave(s, ui);
+    }
+}
+
+void BuildWholePage(Session& s, UiPort& ui, int mode)
+{
+    auto& b = s.build;
+    b.buildError = 0;
+    ui.setBusy(true);
+    if (mode == 1) {
+        b.entryPreview = false;
+        b.editPreview = false;
+    }
+    ClearHighlights(s.store);
+    b.wholePage = true;
+    BuildOutput(s, ui, 1);
+    if (!b.setupHold && !b.cancelled) {
+        b.wholePage = false;
+        ui.setBusy(false);
+    }
+}
+
+void CreateFormOnly(Session& s, UiPort& ui)
+{
+    s.build.setupHold = false;
+    BuildOutput(s, ui, 1);
+}
+
+void CreateFormHTMLCode(Session& s, UiPort& ui)
+{
+    s.build.setupHold = false;
+    BuildWholePage(s, ui, 1);
+}
+
+} // namespace tq::build

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "html/dispatch.h"
+
+#include "html/titles_lines.h"
+#include "model/attribute_text.h"
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+namespace tq::html {
+
+namespace {
+
+using build::PhpWriter;
+
+std::string Upper(std::string_view s)
+{
+    std::string out(s);
+    std::transform(out.begin(), out.end(), out.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    return out;
+}
+
+struct TableRow
+{
+    std::string_view type;
+    EntryWriter writer;
+    PhpWriter php;
+};
+
+// The dispatch table, in its order.
+constexpr TableRow kTable[] = {
+    {"SETUP", EntryWriter::None, PhpWriter::None},
+    {"NAME", EntryWriter::Text, PhpWriter::Plain},
+    {"SUBJECT", EntryWriter::Text, PhpWriter::Plain},
+    {"EMAIL", EntryWriter::Text, PhpWriter::Plain},
+    {"PHONE NUMBER", EntryWriter::Text, PhpWriter::Plain},
+    {"CELL PHONE NUMBER", EntryWriter::Text, PhpWriter::Plain},
+    {"CANCEL BUTTON", EntryWriter::Cancel, PhpWriter::Plain},
+    {"HORIZONTAL LINE", EntryWriter::HorizontalLine, PhpWriter::None},
+    {"TITLE SHADE", EntryWriter::TitleShade, PhpWriter::None},
+    {"BLANK LINE", EntryWriter::BlankLine, PhpWriter::None},
+    {"VIDEO", EntryWriter::Video, PhpWriter::None},
+    {"PICTURE", EntryWriter::Picture, PhpWriter::None},
+    {"TITLE 1 SINGLE LINE", EntryWriter::Text, PhpWriter::Plain},
+    {"TITLE 2 DOUBLE LINE", EntryWriter::Text, PhpWriter::Plain},
+    {"TITLE HEADER", EntryWriter::Text, PhpWriter::Plain},
+    {"SURVEY INTRO", EntryWriter::Text, PhpWriter::Plain},
+    {"USER NAME", EntryWriter::Text, PhpWriter::Plain},
+    {"PASSWORD", EntryWriter::Text, PhpWriter::Plain},
+    {"SECURITY CODE", EntryWriter::Text, PhpWriter::Plain},
+    {"QUESTION MULTIPLE CHOICES COMMENTS", EntryWriter::Choices, PhpWriter::Paired},
+    {"QUESTION MULTIPLE CHOICES", EntryWriter::Choices, PhpWriter::Paired},
+    {"QUESTION YESNO REQUIRED", EntryWriter::Choices, PhpWriter::Paired},
+    {"QUESTION YESNO NOT REQUIRED", EntryWriter::Choices, PhpWriter::Paired},
+    {"QUESTION YESNO VERTICAL REQUIRED", EntryWriter::Choices, PhpWriter::Paired},
+    {"CONDITION WITH COMMENT", EntryWriter::Choices, PhpWriter::Paired},
+    {"DOWNLOAD FILES", EntryWriter::Choices, PhpWriter::Plain},
+    {"DOWNLOAD FILES WITH PASSWORD", EntryWriter::Choices, PhpWriter::Plain},
+    {"CONDITION WITH DROPDOWN", EntryWriter::ConditionDropdown, PhpWriter::Paired},
+    {"CONDITION WITH MULTIPLE CHOICES", EntryWriter::ConditionChoices, PhpWriter::Paired},
+    {"TABLE TEXT REQUIRED", EntryWriter::TableText, PhpWriter::Paired},
+    {"TABLE CHOICES REQUIRED", EntryWriter::TableChoices, PhpWriter::Paired},
+    {"FOLLOWUP FILES WITH PASSWORD", EntryWriter::Text, PhpWriter::Paired},
+    {"FOLLOWUP WITH MULTIPLE CHOICES", EntryWriter::Choices, PhpWriter::Paired},
+    {"DROPDOWN REQUIRED", EntryWriter::Dropdown, PhpWriter::Plain},
+    {"DROPDOWN NOT REQUIRED", EntryWriter::Dropdown, PhpWriter::Plain},
+    {"FOLLOWUP WITH DROPDOWN", EntryWriter::Dropdown, PhpWriter::Plain},
+    {"CHECKBOX HORIZONTAL", EntryWriter::Checkboxes, PhpWriter::Plain},
+    {"CHECKBOX VERTICAL", EntryWriter::Checkboxes, PhpWriter::Plain},
+    {"COMMENTS REQUIRED", EntryWriter::Comments, PhpWriter::Plain},
+    {"COMMENTS NOT REQUIRED", EntryWriter::Comments, PhpWriter::Plain},
+    {"COMMENTS WITH TEXT", EntryWriter::Comments, PhpWriter::Plain},
+    {"FOLLOWUP WITH COMMENT", EntryWriter::Comments, PhpWriter::Plain},
+};
+
+// The extraction of the Entry's attributes into the working values; its
+// faults set buildError 1, an Input Type that fits no row sets 5.
+void ExtractForDispatch(Session&, UiPort&, const std::string&, std::string&) {}
+
+// The global alignment and text colour of the SetupEntry over the Entry's.
+void ApplyGlobalsForLine(Session&) {}
+
+// The question writers of both modes, by the writer of the table.
+void WriteQuestion(Session&, UiPort&, EntryWriter, const std::string&, const std::string&) {}
+
+// The TITLE SHADE writer needs the title cut into its heading lines.
+void WriteShade(Session&) {}
+
+} // namespace
+
+DispatchRow LookUpEntry(std::string_view inputType)
+{
+    const std::string t = Upper(inputType);
+    for (const auto& row : kTable)
+        if (row.type == t)
+            return {row.writer, row.php};
+    return {};
+}
+
+bool SetsConditionField(EntryWriter writer, bool survey)
+{
+    switch (writer) {
+    case EntryWriter::Choices:
+    case EntryWriter::ConditionDropdown:
+        return true;
+    case EntryWriter::ConditionChoices:
+        return !survey;
+    default:
+        return false;
+    }
+}
+
+void ClearEntryValues(build::WorkingValues& v)
+{
+    v.DefaultValue.clear();
+    v.VisibleDownload.clear();
+    v.Title.clear();
+    v.PASSWORD.clear();
+    v.Width.clear();
+    v.Height.clear();
+    v.USERNAME.clear();
+    v.MSG.clear();
+    v.MSG2.clear();
+    v.REQ.clear();
+    v.Choices.clear();
+    v.CheckBoxes.clear();
+    v.DefaultLines.clear();
+    v.IntroLines.clear();
+}
+
+void DispatchEntry(Session& s,
+                   UiPort& ui,
+                   int pass,
+                   const std::string& fieldName,
+                   const std::string& inputType,
+                   const std::string& attributeText)
+{
+    auto& b = s.build;
+    auto& v = b.values;
+    ClearEntryValues(v);
+    const DispatchRow row = LookUpEntry(inputType);
+    const std::string t = Upper(inputType);
+    std::string text = attributeText;
+
+    if (row.writer == EntryWriter::HorizontalLine) {
+        if (pass != 1)
+            return;
+        int err = 0;
+        model::TakeLineGroup(ui, text, v.LineWidth, v.LineSize, v.LineAlign, v.LineColor, err);
+        if (err != 0) {
+            b.buildError = 1;
+            return;
+        }
+        ApplyGlobalsForLine(s);
+        WriteHorizontalLine(s);
+        return;
+    }
+
+    ExtractForDispatch(s, ui, inputType, text);
+    if (b.buildError == 1)
+        return;
+
+    if (pass != 1) {
+        if (row.php != PhpWriter::None)
+            build::WriteEntryPhp(s, ui, row.php, fieldName, t);
+        return;
+    }
+
+    const bool survey = Upper(s.store.state.ProjectMode) == "SURVEY";
+    switch (row.writer) {
+    case EntryWriter::None:
+    case EntryWriter::HorizontalLine:
+        return;
+    case EntryWriter::TitleShade:
+        WriteShade(s);
+        return;
+    case EntryWriter::BlankLine:
+        WriteBlankLine(s);
+        return;
+    case EntryWriter::Video:
+        WriteVideo(s, ui);
+        return;
+    case EntryWriter::Picture:
+        WritePicture(s);
+        return;
+    default:
+        WriteQuestion(s, ui, row.writer, fieldName, t);
+        break;
+    }
+    if (SetsConditionField(row.writer, survey))
+        b.lastConditionField = fieldName + "d";
+}
+
+} // namespace tq::html

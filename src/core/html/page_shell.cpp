@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "html/page_shell.h"
+
+#include "model/attribute_text.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace tq::html {
+
+namespace {
+
+std::string Upper(std::string_view s)
+{
+    std::string out(s);
+    std::transform(out.begin(), out.end(), out.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    return out;
+}
+
+std::string Quoted(std::string_view s)
+{
+    std::string out = "\"";
+    out += s;
+    out += '"';
+    return out;
+}
+
+bool IsOn(std::string_view value)
+{
+    return Upper(value) == "ON";
+}
+
+bool SurveyMode(const Session& s)
+{
+    return Upper(s.store.state.ProjectMode) == "SURVEY";
+}
+
+// The frame switch: off unless [INCLUDE FRAME WITH FORM= upper-cased is "YES".
+bool FrameIsOff(const build::SetupValues& setup)
+{
+    return Upper(setup.IncludeFrame) != "YES";
+}
+
+// A first character ";" marks the sample path: no image. An empty path has
+// no first character and so counts as an image.
+bool HasBackgroundImage(const build::SetupValues& setup)
+{
+    return setup.BackgroundImagePath.empty() || setup.BackgroundImagePath.front() != ';';
+}
+
+// The closing tags of the text style: italic first, then bold.
+void CloseStyleTags(Session& s)
+{
+    auto& b = s.build;
+    auto& out = b.channels[1];
+    if (IsOn(b.values.Italics))
+        out.line("</i>");
+    if (IsOn(b.values.Bold))
+        out.line("</b>");
+}
+
+} // namespace
+
+void WritePageHead(Session& s)
+{
+    auto& b = s.build;
+    auto& out = b.channels[1];
+    const auto& setup = b.setupValues;
+    if (b.wholePage) {
+        out.line("<html>");
+        out.line("<body>");
+        out.line("");
+        // the second body tag after the first belongs to the format
+        if (SurveyMode(s))
+            out.line("<body bgcolor=" + Quoted(model::ColorToHex(setup.BackgroundColor)) + ">");
+    }
+    if (!FrameIsOff(setup) && !SurveyMode(s))
+        WriteFrameOpen(s);
+    if (HasBackgroundImage(setup))
+        out.line("<body background=" + Quoted(setup.BackgroundImagePath) + ">");
+    out.line("<form action=" + Quoted(b.formAction) + " method=" + Quoted("post") + ">");
+}
+
+void WriteFrameOpen(Session& s)
+{
+    auto& b = s.build;
+    const auto& setup = b.setupValues;
+    if (FrameIsOff(setup) || b.FrameOpened)
+        return;
+    b.FrameOpened = true;
+    auto& out = b.channels[1];
+    out.line("<div align=" + Quoted("center") + ">");
+    out.line("  <center> ");
+    for (int i = 0; i < setup.TotalFrames; ++i) {
+        out.line("");
+        // no blank before "bordercolor=": the format runs the two together
+        out.line("  <table border=" + Quoted("4") + " cellpadding=" + Quoted("0") + " width=" + Quoted("100%") +
+                 "bordercolor=" + Quoted(model::ColorToHex(setup.FrameBorderColor)) +
+                 " bgcolor=" + Quoted("#" + model::ColorToHex(setup.FrameColor)) + ">");
+        out.line("    <tr>");
+        out.line("      <td width=" + Quoted("100%") + ">");
+        out.line("");
+    }
+    out.line("<div align=" + Quoted("center") + ">");
+    out.piece("<table border=" + Quoted("0") + " width=");
+    if (HasBackgroundImage(setup)) {
+        out.piece(Quoted("100%"));
+        out.line(" background= " + Quoted(setup.BackgroundImagePath) + ">");
+    } else {
+        // the table tag stays without its ">": the next write continues the line
+        out.piece(Quoted("97%"));
+    }
+    out.line("  <tr>");
+    out.line("    <td width=" + Quoted("100%") + ">");
+    out.line("");
+}
+
+void WriteFrameClose(Session& s)
+{
+    auto& b = s.build;
+    if (FrameIsOff(b.setupValues))
+        return;
+    // one frame level is closed whatever TOTAL FRAMES is; the others stay open
+    auto& out = b.channels[1];
+    out.line("");
+    out.line("<p align=" + Quoted("center") + ">&nbsp;</td>");
+    out.line("    </tr>");
+    out.line("  </table>");
+    out.line("</div>");
+    out.line("");
+    out.line("</td>");
+    out.line("    </tr>");
+    out.line("  </table>");
+    out.line("  </center>");
+    out.line("</div>");
+    out.line("");
+}
+
+void WriteBlockOpen(Session& s)
+{
+    auto& b = s.build;
+    auto& out = b.channels[1];
+    const std::string& align = b.values.ALIGN;
+    out.line("<div align=" + Quoted(align) + ">");
+    out.line("  <center>");
+    out.line("  <table border=" + Quoted("0") + " cellpadding=" + Quoted("0") + " width=" + Quoted("98%") + ">");
+    out.line("    <tr>");
+    out.line("      <td width=" + Quoted("100%") + " align=" + Quoted(align) + ">");
+}
+
+void WriteBlockClose(Session& s)
+{
+    auto& b = s.build;
+    auto& out = b.channels[1];
+    out.line("      </td>");
+    out.line("    </tr>");
+    out.line("  </table>");
+    out.line("  </center></div>");
+    out.line("<br>");
+}
+
+void WritePageClose(Session& s, std::string_view submitName)
+{
+    auto& b = s.build;
+    auto& out = b.channels[1];
+    const auto& setup = b.setupValues;
+    const auto& v = b.values;
+    out.line("");
+    out.line("<p align=" + Quoted(setup.SubmitAlign) + ">");
+    out.line("<input type=" + Quoted("submit") + " style=" +
+             Quoted("color: " + model::ColorToHex(setup.SubmitButtonColor)) + " value=" + Quoted(submitName) + "></p>");
+    // a name of one character writes no cancel button
+    if (v.ButtonName.size() > 1) {
+        out.line("<br>");
+        out.line("<p align=" + Quoted(v.ALIGN) + "><a href=" + Quoted(v.LinkTo) + "><font color=" +
+                 Quoted(v.DefaultColorHex) + "><input type=" + Quoted("button") + " value=" + Quoted(v.ButtonName) +
+                 " name=" + Quoted("B4") + " style=" + Quoted("font-family: Arial; color: " + v.DefaultColorHex) + ">");
+        CloseStyleTags(s);
+        out.line("</font></a></p>");
+        out.line("");
+    }
+    out.line("</form>");
+    if (!SurveyMode(s) && !FrameIsOff(setup))
+        WriteFrameClose(s);
+    if (b.wholePage) {
+        out.line("</body>");
+        out.line("</html>");
+    }
+}
+
+} // namespace tq::html

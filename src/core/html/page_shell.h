@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "session.h"
+
+#include <string>
+#include <string_view>
+
+namespace tq::html {
+
+/// The head of the page on channel 1, after the file was opened: the html and
+/// body tags of a whole page, the frame opening of a FORM, the background
+/// image and the form tag with `formAction`.
+void WritePageHead(Session& s);
+
+/// The frame tables of a FORM, written at most once per build (FrameOpened).
+/// Does nothing when the frame is off.
+void WriteFrameOpen(Session& s);
+
+/// Closes the inner table and one frame table, whatever TOTAL FRAMES is.
+/// Does nothing when the frame is off.
+void WriteFrameClose(Session& s);
+
+/// The wrapper table of pictures and videos, aligned by the shared ALIGN.
+void WriteBlockOpen(Session& s);
+/// Closes the wrapper table.
+void WriteBlockClose(Session& s);
+
+/// The tail of the page: the submit button with `submitName`, the cancel
+/// button when its Entry named one of more than one character, the form's
+/// end, the frame close of a FORM and the end tags of a whole page.
+void WritePageClose(Session& s, std::string_view submitName);
+
+} // namespace tq::html
