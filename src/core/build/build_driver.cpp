@@ -3,6 +3,7 @@
 
 #include "build/php_pass.h"
 #include "html/dispatch.h"
+#include "html/headings.h"
 #include "html/page_shell.h"
 #include "port/platform.h"
 
@@ -23,14 +24,6 @@ std::string Upper(std::string_view s)
     std::string out(s);
     std::transform(out.begin(), out.end(), out.begin(),
                    [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return out;
-}
-
-std::string Lower(std::string_view s)
-{
-    std::string out(s);
-    std::transform(out.begin(), out.end(), out.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return out;
 }
 
@@ -75,14 +68,6 @@ void ReportFaultAt(Session&, UiPort&, int) {}
 // The fatal report of an Input Type outside the catalogue at `slot`.
 void ReportUnknownAt(Session&, UiPort&, int) {}
 
-// The field name of the Entry in `slot`: the first five characters of the
-// Input Type and the slot, trimmed and lower-cased.
-std::string FieldNameAt(std::string_view inputType, int slot)
-{
-    std::string name = std::string(inputType.substr(0, 5)) + std::to_string(slot);
-    return Lower(Trim(name));
-}
-
 // The publishing instructions of a finished build.
 void ShowInstructions(Session&, UiPort& ui)
 {
@@ -103,6 +88,8 @@ void ClearHighlights(model::EntryStore& store)
 void ResetBuildCounters(BuildState& b)
 {
     b.questionNumber = 0;
+    b.messageNumber = 0;
+    b.phpQuestionNumber = 0;
     b.messageLineCount = 0;
     b.downloadTextCount = 0;
     b.downloadFileCount = 0;
@@ -166,7 +153,7 @@ void DispatchList(Session& s, UiPort& ui, int pass)
         const std::string text = b.flatList.at(static_cast<size_t>(i + 1));
         if (pass == 2)
             b.lastPhpSlot = i;
-        html::DispatchEntry(s, ui, pass, FieldNameAt(inputType, i), inputType, text);
+        html::DispatchEntry(s, ui, pass, html::FieldName(inputType, i), inputType, text);
         if (b.buildError == 1) {
             ReportFaultAt(s, ui, i);
             return;
@@ -339,7 +326,8 @@ void HtmlPass(Session& s, UiPort& ui)
         for (const auto& slot : s.store.state.PreviewSlots) {
             if (slot.InputTypeName.empty())
                 continue;
-            html::DispatchEntry(s, ui, 1, Lower(slot.InputTypeName) + "1", slot.InputTypeName, slot.AttributeText);
+            html::DispatchEntry(s, ui, 1, html::PreviewFieldName(slot.InputTypeName), slot.InputTypeName,
+                                slot.AttributeText);
             if (b.buildError == 5)
                 b.buildError = 1;
             if (b.buildError == 1)

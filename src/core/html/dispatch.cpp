@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "html/dispatch.h"
 
+#include "html/globals.h"
+#include "html/html_text.h"
 #include "html/titles_lines.h"
 #include "model/attribute_text.h"
 
-#include <algorithm>
-#include <cctype>
 #include <utility>
 
 namespace tq::html {
@@ -13,14 +13,6 @@ namespace tq::html {
 namespace {
 
 using build::PhpWriter;
-
-std::string Upper(std::string_view s)
-{
-    std::string out(s);
-    std::transform(out.begin(), out.end(), out.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return out;
-}
 
 struct TableRow
 {
@@ -79,20 +71,14 @@ constexpr TableRow kTable[] = {
 // faults set buildError 1, an Input Type that fits no row sets 5.
 void ExtractForDispatch(Session&, UiPort&, const std::string&, std::string&) {}
 
-// The global alignment and text colour of the SetupEntry over the Entry's.
-void ApplyGlobalsForLine(Session&) {}
-
 // The question writers of both modes, by the writer of the table.
 void WriteQuestion(Session&, UiPort&, EntryWriter, const std::string&, const std::string&) {}
-
-// The TITLE SHADE writer needs the title cut into its heading lines.
-void WriteShade(Session&) {}
 
 } // namespace
 
 DispatchRow LookUpEntry(std::string_view inputType)
 {
-    const std::string t = Upper(inputType);
+    const std::string t = UpperText(inputType);
     for (const auto& row : kTable)
         if (row.type == t)
             return {row.writer, row.php};
@@ -141,7 +127,7 @@ void DispatchEntry(Session& s,
     auto& v = b.values;
     ClearEntryValues(v);
     const DispatchRow row = LookUpEntry(inputType);
-    const std::string t = Upper(inputType);
+    const std::string t = UpperText(inputType);
     std::string text = attributeText;
 
     if (row.writer == EntryWriter::HorizontalLine) {
@@ -153,7 +139,7 @@ void DispatchEntry(Session& s,
             b.buildError = 1;
             return;
         }
-        ApplyGlobalsForLine(s);
+        ApplyGlobals(s);
         WriteHorizontalLine(s);
         return;
     }
@@ -168,13 +154,13 @@ void DispatchEntry(Session& s,
         return;
     }
 
-    const bool survey = Upper(s.store.state.ProjectMode) == "SURVEY";
+    const bool survey = UpperText(s.store.state.ProjectMode) == "SURVEY";
     switch (row.writer) {
     case EntryWriter::None:
     case EntryWriter::HorizontalLine:
         return;
     case EntryWriter::TitleShade:
-        WriteShade(s);
+        WriteTitleShade(s);
         return;
     case EntryWriter::BlankLine:
         WriteBlankLine(s);

@@ -1,63 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "html/page_shell.h"
 
-#include "model/attribute_text.h"
-
-#include <algorithm>
-#include <cctype>
+#include "html/headings.h"
+#include "html/html_text.h"
 
 namespace tq::html {
 
 namespace {
-
-std::string Upper(std::string_view s)
-{
-    std::string out(s);
-    std::transform(out.begin(), out.end(), out.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return out;
-}
-
-std::string Quoted(std::string_view s)
-{
-    std::string out = "\"";
-    out += s;
-    out += '"';
-    return out;
-}
-
-bool IsOn(std::string_view value)
-{
-    return Upper(value) == "ON";
-}
-
-bool SurveyMode(const Session& s)
-{
-    return Upper(s.store.state.ProjectMode) == "SURVEY";
-}
-
-// The frame switch: off unless [INCLUDE FRAME WITH FORM= upper-cased is "YES".
-bool FrameIsOff(const build::SetupValues& setup)
-{
-    return Upper(setup.IncludeFrame) != "YES";
-}
 
 // A first character ";" marks the sample path: no image. An empty path has
 // no first character and so counts as an image.
 bool HasBackgroundImage(const build::SetupValues& setup)
 {
     return setup.BackgroundImagePath.empty() || setup.BackgroundImagePath.front() != ';';
-}
-
-// The closing tags of the text style: italic first, then bold.
-void CloseStyleTags(Session& s)
-{
-    auto& b = s.build;
-    auto& out = b.channels[1];
-    if (IsOn(b.values.Italics))
-        out.line("</i>");
-    if (IsOn(b.values.Bold))
-        out.line("</b>");
 }
 
 } // namespace
@@ -72,10 +27,10 @@ void WritePageHead(Session& s)
         out.line("<body>");
         out.line("");
         // the second body tag after the first belongs to the format
-        if (SurveyMode(s))
-            out.line("<body bgcolor=" + Quoted(model::ColorToHex(setup.BackgroundColor)) + ">");
+        if (IsSurvey(s))
+            out.line("<body bgcolor=" + Quoted(setup.BackgroundColorHex) + ">");
     }
-    if (!FrameIsOff(setup) && !SurveyMode(s))
+    if (setup.FrameOff == 0 && !IsSurvey(s))
         WriteFrameOpen(s);
     if (HasBackgroundImage(setup))
         out.line("<body background=" + Quoted(setup.BackgroundImagePath) + ">");
@@ -86,7 +41,7 @@ void WriteFrameOpen(Session& s)
 {
     auto& b = s.build;
     const auto& setup = b.setupValues;
-    if (FrameIsOff(setup) || b.FrameOpened)
+    if (setup.FrameOff == 1 || b.FrameOpened)
         return;
     b.FrameOpened = true;
     auto& out = b.channels[1];
@@ -96,8 +51,8 @@ void WriteFrameOpen(Session& s)
         out.line("");
         // no blank before "bordercolor=": the format runs the two together
         out.line("  <table border=" + Quoted("4") + " cellpadding=" + Quoted("0") + " width=" + Quoted("100%") +
-                 "bordercolor=" + Quoted(model::ColorToHex(setup.FrameBorderColor)) +
-                 " bgcolor=" + Quoted("#" + model::ColorToHex(setup.FrameColor)) + ">");
+                 "bordercolor=" + Quoted(setup.FrameBorderColorHex) + " bgcolor=" + Quoted("#" + setup.FrameColorHex) +
+                 ">");
         out.line("    <tr>");
         out.line("      <td width=" + Quoted("100%") + ">");
         out.line("");
@@ -119,7 +74,7 @@ void WriteFrameOpen(Session& s)
 void WriteFrameClose(Session& s)
 {
     auto& b = s.build;
-    if (FrameIsOff(b.setupValues))
+    if (b.setupValues.FrameOff == 1)
         return;
     // one frame level is closed whatever TOTAL FRAMES is; the others stay open
     auto& out = b.channels[1];
@@ -168,20 +123,20 @@ void WritePageClose(Session& s, std::string_view submitName)
     const auto& v = b.values;
     out.line("");
     out.line("<p align=" + Quoted(setup.SubmitAlign) + ">");
-    out.line("<input type=" + Quoted("submit") + " style=" +
-             Quoted("color: " + model::ColorToHex(setup.SubmitButtonColor)) + " value=" + Quoted(submitName) + "></p>");
+    out.line("<input type=" + Quoted("submit") + " style=" + Quoted("color: " + setup.SubmitButtonColorHex) +
+             " value=" + Quoted(submitName) + "></p>");
     // a name of one character writes no cancel button
     if (v.ButtonName.size() > 1) {
         out.line("<br>");
         out.line("<p align=" + Quoted(v.ALIGN) + "><a href=" + Quoted(v.LinkTo) + "><font color=" +
                  Quoted(v.DefaultColorHex) + "><input type=" + Quoted("button") + " value=" + Quoted(v.ButtonName) +
                  " name=" + Quoted("B4") + " style=" + Quoted("font-family: Arial; color: " + v.DefaultColorHex) + ">");
-        CloseStyleTags(s);
+        WriteStyleClose(s);
         out.line("</font></a></p>");
         out.line("");
     }
     out.line("</form>");
-    if (!SurveyMode(s) && !FrameIsOff(setup))
+    if (!IsSurvey(s) && setup.FrameOff == 0)
         WriteFrameClose(s);
     if (b.wholePage) {
         out.line("</body>");

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "html/titles_lines.h"
 
+#include "html/headings.h"
+#include "html/html_text.h"
 #include "html/page_shell.h"
 #include "model/attribute_text.h"
 
-#include <algorithm>
 #include <cctype>
 #include <string>
 #include <string_view>
@@ -13,25 +14,9 @@ namespace tq::html {
 
 namespace {
 
-std::string Upper(std::string_view s)
+bool IsOn(std::string_view value)
 {
-    std::string out(s);
-    std::transform(out.begin(), out.end(), out.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return out;
-}
-
-std::string Quoted(std::string_view s)
-{
-    std::string out = "\"";
-    out += s;
-    out += '"';
-    return out;
-}
-
-bool SurveyMode(const Session& s)
-{
-    return Upper(s.store.state.ProjectMode) == "SURVEY";
+    return UpperText(value) == "ON";
 }
 
 // The leading whole number of a text ("12abc" is 12, "abc" is 0).
@@ -61,7 +46,7 @@ void WriteVideoLines(Session& s, std::string_view closing)
     const auto& v = s.build.values;
     out.line("<p align=" + Quoted(v.VideoAlign) + ">");
     out.piece("<img border=" + Quoted("0") + " dynsrc=" + Quoted(v.ServerPath));
-    out.piece(Upper(v.Autostart) == "ON" ? " start=" + Quoted("fileopen") : " start=" + Quoted("mouseover"));
+    out.piece(UpperText(v.Autostart) == "ON" ? " start=" + Quoted("fileopen") : " start=" + Quoted("mouseover"));
     out.line(" width=" + Quoted(v.VideoWidth) + " height=" + Quoted(v.VideoHeight) + " loop=" + Quoted(v.Loop) +
              std::string(closing));
 }
@@ -84,6 +69,39 @@ void WriteHorizontalLine(Session& s)
     out.line("");
 }
 
+void WriteTitleShade(Session& s)
+{
+    auto& b = s.build;
+    auto& out = b.channels[1];
+    const auto& v = b.values;
+    SplitTitle(b, v.Title);
+    out.line("<table border=" + Quoted("0") + " width=" + Quoted(v.TitleShadeWidth) + " height=" + Quoted("34") +
+             " align=" + Quoted(v.ALIGN) + ">");
+    out.line("  <tr>");
+    // the shade colour is fixed; no attribute changes it
+    out.line("    <td width=" + Quoted("100%") + " align=" + Quoted(v.ALIGN) + " bgcolor=" + Quoted("#EFEFEF") +
+             " height=" + Quoted("24") + "><font color=" + Quoted(v.TextColorHex) + " face=" + Quoted(kFace) +
+             " size=" + Quoted(v.TitleSize) + ">");
+    if (IsOn(v.Italics))
+        out.line("<i>");
+    if (IsOn(v.Bold))
+        out.line("<b>");
+    const auto& lines = b.TitleLines;
+    for (int i = 1; i < lines.count(); ++i)
+        out.line(lines.at(i) + "<br>");
+    if (lines.count() > 0)
+        out.line(lines.at(lines.count()));
+    WriteStyleClose(s);
+    out.line("</font></td>");
+    out.line("  </tr>");
+    out.line("  <tr>");
+    out.line("<td width=" + Quoted("100%") + " align=" + Quoted("center") + " height=" + Quoted("4") + "></td>");
+    out.line("  </tr>");
+    out.line("</table>");
+    if (UpperText(v.ALIGN) != "CENTER")
+        out.line("<br><br>");
+}
+
 void WriteBlankLine(Session& s)
 {
     const long count = LeadingNumber(s.build.values.NewLine);
@@ -96,7 +114,7 @@ void WriteBlankLine(Session& s)
 void WriteVideo(Session& s, UiPort& ui)
 {
     const auto& v = s.build.values;
-    const std::string p = Upper(v.ServerPath);
+    const std::string p = UpperText(v.ServerPath);
     const bool wmv = p.find(".WMV") != std::string::npos;
     const bool mp4 = p.find(".MP4") != std::string::npos;
     const bool avi = p.find(".AVI") != std::string::npos;
@@ -105,7 +123,7 @@ void WriteVideo(Session& s, UiPort& ui)
             ui.message(v.ServerPath + " format is not supported", "ERROR", Icon::Critical);
         return;
     }
-    if (!SurveyMode(s)) {
+    if (!IsSurvey(s)) {
         // a FORM's video has no wrapper table
         WriteVideoLines(s, "></p>");
         return;
@@ -127,9 +145,9 @@ void WritePicture(Session& s)
 {
     auto& b = s.build;
     const auto& v = b.values;
-    if (Upper(v.ServerPath) == "NONE")
+    if (UpperText(v.ServerPath) == "NONE")
         return;
-    if (!SurveyMode(s) && b.lastPhpSlot != 3)
+    if (!IsSurvey(s) && b.lastPhpSlot != 3)
         b.channels[1].line("<br><br>");
     WriteBlockOpen(s);
     b.channels[1].line("<img border=" + Quoted("0") + " src=" + Quoted(v.ServerPath) +

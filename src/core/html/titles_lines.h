@@ -11,6 +11,9 @@ namespace tq::html {
 /// HORIZONTAL LINE: an hr tag with size, alignment, width and colour.
 void WriteHorizontalLine(Session& s);
 
+/// TITLE SHADE: the title, cut into its lines, in a fixed grey table.
+void WriteTitleShade(Session& s);
+
 /// BLANK LINE: NEW LINE times "<br>". A count past 32767 throws
 /// model::InternalError (it would overflow the counter of the format).
 void WriteBlankLine(Session& s);
