@@ -48,6 +48,7 @@ struct StateRecord
     std::string SavedSetupName;
     std::string SavedSetupText;
     int AbortFlag = 0;
+    bool LoadPending = false; // the opening marker: the clear prompt runs on behalf of an open
     int commitMode = 0; // 10 while Exit of the edit page commits, 11 during an Entry preview, else 0
     int buildError = 0;
 };

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/defaults.h"
+
+#include "port/platform.h"
+#include "session.h"
+#include "store/project_file.h"
+#include "store/setup_store.h"
+#include "store/text_file.h"
+
+namespace tq::store {
+
+namespace {
+
+constexpr std::string_view kDefaultName = "\\default.txt";
+constexpr std::string_view kDefaultFilter = "Default Files (*.txt) | *.txt";
+
+} // namespace
+
+bool SaveDefaults(Session& s, UiPort& ui, bool askFirst, const DefaultsHooks& hooks)
+{
+    if (s.build.buildError != 0)
+        return false;
+    s.run.busyMark = kSaving;
+    auto leave = [&] {
+        s.run.busyMark = kIdle;
+        return false;
+    };
+    if (askFirst && hooks.setupReminder && hooks.setupReminder(s, ui) == 1)
+        return leave();
+
+    FileDialogSpec spec;
+    spec.title = "Enter the Filename";
+    spec.initialFolder = s.DataFolder;
+    spec.initialName = platform::JoinPath(s.DataFolder, kDefaultName);
+    spec.filter = kDefaultFilter;
+    auto chosen = ui.saveFileDialog(spec);
+    if (!chosen || chosen->empty())
+        return leave();
+    if (FileReadable(*chosen)) {
+        const std::string q = "File " + *chosen + "  already exists. Do you want to replace it?";
+        if (ui.ask(q, "FILE EXIST", Buttons::YesNo, Icon::Question, 1) != Answer::Yes)
+            return leave();
+    }
+    // the raw first pass only: a defaults file has no asterisk lines
+    if (!WriteFileReplacing(*chosen, WriteEntries(s.store)))
+        return leave();
+    RefreshStatus(s);
+    ui.message("Defaults have been saved", "DEFAULTS SAVED", Icon::Information);
+    s.run.busyMark = kIdle;
+    return true;
+}
+
+bool RestoreDefaults(Session& s, UiPort& ui, const DefaultsHooks& hooks)
+{
+    FileDialogSpec spec;
+    spec.initialFolder = s.DataFolder;
+    spec.initialName = platform::JoinPath(s.DataFolder, kDefaultName);
+    spec.filter = kDefaultFilter;
+    auto chosen = ui.openFileDialog(spec);
+    if (!chosen || chosen->empty())
+        return false;
+    auto bytes = ReadWholeFile(*chosen);
+    if (!bytes)
+        return false;
+
+    // the restore shares the project dialog, so its name becomes the current
+    // one: the next status refresh reads "NOTHING IS CURRENTLY LOADED"
+    s.run.CurrentProjectName = *chosen;
+    s.run.GlobalFont = "arial";
+    s.run.FontSize = "3";
+    s.run.Italics = "off";
+    s.run.Bold = "off";
+    if (hooks.fillPickLists)
+        hooks.fillPickLists(s);
+
+    LineReader in = ReaderOf(*bytes);
+    ReadEntries(s.store, in);
+    ApplySetupMenus(s.setup);
+    RefreshRowEditFlags(s.store);
+    ui.entriesChanged();
+    ui.message("Defaults have been restored", "RESTORED", Icon::Information);
+    return true;
+}
+
+} // namespace tq::store
