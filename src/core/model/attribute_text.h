@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/internal_error.h"
 #include "port/ui_port.h"
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tq::model {
-
-/// A bound of a fixed working list or table was passed: a fault of the
-/// program, reported to the user, never undefined behaviour.
-struct InternalError : std::runtime_error
-{
-    using std::runtime_error::runtime_error;
-};
 
 /// A working list with a fixed bound. Items are counted from 1 as the format
 /// counts them: at(1) is the first. push past the bound throws InternalError.
@@ -47,7 +40,10 @@ using HtmlLineList = BoundedList<150>;
 /// The destructive reader: takes the item `key` ("[TITLE", "[INFO:", "[" for
 /// any item) from the front of `text` into `value`. Shows its own messages
 /// through `ui` and sets `err` to 1 on a fault (err is set to 0 on entry).
-/// A "[SERVER DOWNLOAD" value is also stored in *serverFolderPath when given.
+/// Leading blanks are always removed; a fault found after the key was taken
+/// off leaves the text without it. `value` is only written on success.
+/// A "[SERVER DOWNLOAD" value is also stored in *serverFolderPath when given
+/// (with a "/" added behind a path that has one and ends in no separator).
 void TakeAttribute(UiPort& ui,
                    std::string_view key,
                    std::string& value,
@@ -62,17 +58,26 @@ void TakeChoiceList(UiPort& ui, std::string_view key, std::string& text, ChoiceL
 /// Splits at backslash-n (either case) into left-trimmed lines.
 LineList SplitLines(std::string text);
 
+/// The same split into an existing list. The text is consumed; an empty text
+/// leaves `lines` as it was (the previous lines stay in use).
+void SplitLines(std::string& text, LineList& lines);
+
 /// Splits at backslash-n keeping blanks and empty lines, with the &nbsp; rewriting.
 HtmlLineList SplitHtmlLines(std::string_view text);
 
 /// The stored form of a one-line template: one item per line, blank lines
-/// before block keys, CR LF after every line. Messages of the reader go to `ui`.
+/// before block keys, CR LF after every line. Only the first line of `text`
+/// is read. Messages of the reader go to `ui`; a read that makes no progress
+/// (a broken text) puts the rest of the text on the last line as it stands.
 std::string NormalizeAttributeText(UiPort& ui, std::string_view text);
 
-/// Reads the optional shade pair. Sets err on the first failing read.
+/// Reads the optional shade pair when the text begins with "[SHADE WIDTH":
+/// width (through ColorToHex unless it holds "%"), colour as hex. Sets err
+/// on the first failing read; outputs are left alone otherwise.
 void TakeShadeGroup(UiPort& ui, std::string& text, std::string& shadeWidth, std::string& shadeColor, int& err);
 
-/// Reads the line group of a HORIZONTAL LINE; stops at the first error.
+/// Reads the line group of a HORIZONTAL LINE after taking every CR and LF
+/// out of `text`; stops at the first error with err set.
 void TakeLineGroup(UiPort& ui,
                    std::string& text,
                    std::string& width,
