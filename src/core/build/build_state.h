@@ -27,7 +27,7 @@ struct BuildState
     bool wholePage = false;
     int questionNumber = 0;
     int phpQuestionNumber = 0; // numbers the messages of the script; reset with questionNumber
-    int messageNumber = 0; // the number in the e-mail captions; advances like questionNumber
+    int messageNumber = 0;     // the number in the e-mail captions; advances like questionNumber
 
     /// The heading lines of the Entry in hand (SplitTitle); past 150 is an InternalError.
     model::HtmlLineList TitleLines;

@@ -106,6 +106,7 @@ struct WorkingValues
     std::string LineSize;
     std::string LineAlign;
     std::string LineColor;
+    std::string LineColorHex;
     std::string LeftMargin;
 };
 

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "build/validation.h"
+
+#include "build/check_text.h"
+#include "port/platform.h"
+#include "session.h"
+
+#include <exception>
+#include <filesystem>
+#include <fstream>
+
+namespace tq::build {
+
+namespace {
+
+View PageView(int page)
+{
+    switch (page) {
+    case 1:
+        return View::Page1;
+    case 2:
+        return View::Page2;
+    case 3:
+        return View::Page3;
+    default:
+        return View::Page4;
+    }
+}
+
+/// Splits file bytes into lines at CR LF or a lone LF.
+std::vector<std::string> SplitFileLines(const std::string& bytes)
+{
+    std::vector<std::string> lines;
+    std::string line;
+    for (size_t i = 0; i < bytes.size(); ++i) {
+        const char c = bytes[i];
+        if (c == '\n') {
+            if (!line.empty() && line.back() == '\r')
+                line.pop_back();
+            lines.push_back(line);
+            line.clear();
+        } else {
+            line += c;
+        }
+    }
+    if (!line.empty())
+        lines.push_back(line);
+    return lines;
+}
+
+} // namespace
+
+void LocateEntry(int slot, int& row, int& page)
+{
+    const int entry = (slot + 1) / 2; // counted from 1
+    if (slot < 51) {
+        page = 1;
+        row = entry - 1;
+    } else if (slot < 101) {
+        page = 2;
+        row = entry - 25 - 1;
+    } else if (slot < 151) {
+        page = 3;
+        row = entry - 50 - 1;
+    } else {
+        page = 4;
+        row = entry - 75 - 1;
+    }
+}
+
+void ReportBuildFault(Session& s, UiPort& ui, int slot)
+{
+    int row = 0;
+    int page = 1;
+    LocateEntry(slot, row, page);
+    ui.showView(PageView(page));
+    ui.selectRow(page, row);
+    s.store.state.EditPage = page;
+    s.store.state.EditRow = row;
+    ui.openEditPage(page, row, "");
+}
+
+void ReportUnknownType(Session& s, UiPort& ui, int slot, std::string_view inputType)
+{
+    s.build.buildError = 1;
+    s.build.channels.closeAll();
+    try {
+        int row = 0;
+        int page = 1;
+        LocateEntry(slot, row, page);
+        ui.showView(PageView(page)); // the port hides the other views
+        ui.selectRow(page, row);
+        const std::string type = Upper(inputType);
+        ui.message(type + " is not a valid input type.\r\rPlease remove the " + type + " from the list", "ERROR",
+                   Icon::Critical);
+    } catch (const std::exception& e) {
+        ui.message(e.what(), "FATAL ERROR", Icon::Critical);
+        s.build.channels.closeAll();
+    }
+}
+
+void FixLineBreaks(std::string& text)
+{
+    // Taking out the first pair and starting again from the front ends where
+    // a single walk that cancels each LF against a CR just before it ends.
+    std::string out;
+    out.reserve(text.size());
+    for (char c : text) {
+        if (c == '\n' && !out.empty() && out.back() == '\r')
+            out.pop_back();
+        else
+            out += c;
+    }
+    text = std::move(out);
+}
+
+void RewriteAttribute(Session& s, std::string_view key, std::string_view value, std::string& text)
+{
+    const std::string scratch = platform::JoinPath(s.DataFolder, "\\temp11.txt");
+    const std::string rewritten = platform::JoinPath(s.DataFolder, "\\temp.txt");
+    const std::string upperKey = Upper(key);
+    try {
+        LineWriter& ch3 = s.build.channels[3];
+        ch3.close();
+        if (!ch3.open(scratch))
+            throw std::runtime_error("cannot open " + scratch);
+        const bool ended = text.size() >= 2 && text.compare(text.size() - 2, 2, "\r\n") == 0;
+        ch3.piece(text);
+        if (!ended)
+            ch3.piece("\r\n");
+        const bool good = ch3.good();
+        ch3.close();
+        if (!good)
+            throw std::runtime_error("cannot write " + scratch);
+
+        std::ifstream in(scratch, std::ios::binary);
+        const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        LineWriter& ch2 = s.build.channels[2];
+        ch2.close();
+        if (!ch2.open(rewritten))
+            throw std::runtime_error("cannot open " + rewritten);
+        std::string result;
+        for (const std::string& line : SplitFileLines(bytes)) {
+            std::string out = line;
+            const size_t pos = Upper(line).find(upperKey);
+            if (pos != std::string::npos)
+                out = line.substr(pos, upperKey.size()) + "=" + std::string(value) + "]";
+            ch2.line(out);
+            result += out + "\r\n";
+        }
+        const bool good2 = ch2.good();
+        ch2.close();
+        if (!good2)
+            throw std::runtime_error("cannot write " + rewritten);
+        std::filesystem::copy_file(rewritten, scratch, std::filesystem::copy_options::overwrite_existing);
+        text = std::move(result);
+        s.build.buildError = 0;
+    } catch (const std::exception&) {
+        s.build.channels[2].close();
+        s.build.channels[3].close();
+        s.build.buildError = 1;
+    }
+}
+
+bool KeepPairTogether(model::EntryStore& store, int page, int row)
+{
+    if (page < 1 || page > model::kPageCount || row < 0 || row >= model::kRowsPerPage - 1)
+        return false;
+    auto& rows = store.pages[static_cast<size_t>(page - 1)];
+    const std::string name = Upper(rows[static_cast<size_t>(row)].InputTypeName);
+    // The download test compares ten characters with the whole 28-character
+    // name, so it never holds: a download pair keeps separate numbers.
+    const bool download = name.substr(0, 10) == "DOWNLOAD FILES WITH PASSWORD";
+    if (name.substr(0, 9) == "CONDITION" || download) {
+        rows[static_cast<size_t>(row + 1)].ReferenceNumber = rows[static_cast<size_t>(row)].ReferenceNumber;
+        return true;
+    }
+    return false;
+}
+
+bool IsConditionType(std::string_view inputType)
+{
+    return Upper(inputType.substr(0, 9)) == "CONDITION";
+}
+
+bool IsFollowupType(std::string_view inputType)
+{
+    return Upper(inputType.substr(0, 8)) == "FOLLOWUP";
+}
+
+bool IsDownloadKey(std::string_view key)
+{
+    return Upper(key.substr(0, 5)) == "DOWNL";
+}
+
+bool IsConditionKey(std::string_view key)
+{
+    return Upper(key.substr(0, 5)) == "CONDI";
+}
+
+} // namespace tq::build

@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "build/check_text.h"
+#include "build/extraction.h"
+#include "build/setup_checks.h"
+#include "port/platform.h"
+#include "scripted_port.h"
+#include "session.h"
+
+#include <gtest/gtest.h>
+
+using tq::Icon;
+using tq::Session;
+using tq::build::CheckAttribute;
+using tq::build::ExtractSetupEntry;
+using tq::test::ScriptedPort;
+
+namespace {
+
+/// A SetupEntry in the shape of the template, with short help items.
+std::string SetupText(bool survey, const std::string& from = "My Club", const std::string& completed = "thanks.htm")
+{
+    return std::string(survey ? "[Background Color=9022343] [Info: Background color] " : "") +
+           "[Drive Folder Path=/srv/www] [Info: folder] [TQL Output File=formtql.htm] [Info: name] "
+           "[FROM=" +
+           from + "] [Info: from] [Completed=" + completed +
+           "] [Info: done] [GLOBAL ALIGN=NONE] [Info: align] "
+           "[GLOBAL TEXT COLOR=NONE] [Choices=NONE  global colour] [Submit Name=Submit Form] [Info: name] "
+           "[SUBMIT ALIGN=LEFT] [Choices=none,left,right,center] [Submit Button Color=255] [Choices=colour] "
+           "[Background image path=;https://www.tarnquill.example/test/cloudark.gif] [Info: image] "
+           "[Email #1=me@club.example] [Info: mail] [Email #2=none] [Info: mail] [Email #3=you@club.example] "
+           "[Info: mail] [Number Each Question=YES] [Info: n] [Show Tool Tips=YES] [Info: t] "
+           "[Include Frame With Form=" +
+           (survey ? "NO" : "YES") +
+           "] [Info: frame] [Frame Border Color=52736] [Info: b] [Frame Color=16384] [Info: c] "
+           "[Total Frames=3] [Info: Total Frames chosen]";
+}
+
+class SetupRead : public ::testing::Test
+{
+  protected:
+    Session s;
+    ScriptedPort ui;
+
+    void Read(std::string text, std::string_view mode = "FORM")
+    {
+        s.store.state.ProjectMode = std::string(mode);
+        ExtractSetupEntry(s, ui, text);
+    }
+};
+
+TEST_F(SetupRead, FormValuesInOrder)
+{
+    Read(SetupText(false));
+    const auto& v = s.build.setupValues;
+    EXPECT_EQ(s.build.buildError, 0);
+    EXPECT_TRUE(ui.shown.empty());
+    EXPECT_EQ(v.BackgroundColor, "");
+    EXPECT_EQ(v.WebFolder, "/srv/www");
+    EXPECT_EQ(v.OutputName, "formtql.htm");
+    EXPECT_EQ(v.FROM, "My Club");
+    EXPECT_EQ(v.COMPLETED, "thanks.htm");
+    EXPECT_EQ(v.GlobalAlign, "NONE");
+    EXPECT_EQ(v.SubmitAlign, "LEFT"); // no global override after the SetupEntry
+    EXPECT_EQ(v.SubmitButtonColorHex, "FF0000");
+    EXPECT_EQ(v.EMAIL1, "me@club.example");
+    EXPECT_EQ(v.EMAIL2, ""); // "none" is cleared
+    EXPECT_EQ(v.EMAIL3, "you@club.example");
+    EXPECT_EQ(v.TotalFrames, 3);
+    EXPECT_EQ(v.FrameOff, 0);
+    EXPECT_EQ(v.FrameBorderColorHex, "00CE00");
+}
+
+TEST_F(SetupRead, SurveyReadsItsBackgroundColourAndHasNoFrame)
+{
+    Read(SetupText(true), "SURVEY");
+    EXPECT_EQ(s.build.buildError, 0);
+    EXPECT_EQ(s.build.setupValues.BackgroundColor, "9022343");
+    EXPECT_EQ(s.build.setupValues.BackgroundColorHex, "87AB89");
+    EXPECT_EQ(s.build.setupValues.FrameOff, 1);
+}
+
+TEST_F(SetupRead, GlobalsSetInTheSetupReachTheNextEntryOnly)
+{
+    std::string text = SetupText(false);
+    text.replace(text.find("[GLOBAL ALIGN=NONE"), 18, "[GLOBAL ALIGN=center");
+    Read(text);
+    EXPECT_EQ(s.build.setupValues.SubmitAlign, "LEFT");
+    std::string title = "[Title=T] [Info: x] [Title Size=3] [Info: x] [Align=left] [Choices=l] [Italics=off] "
+                        "[Info: x] [Bold=off] [Info: x] [Text Color=16777215] [Choices=c]";
+    tq::build::ExtractEntry(s, ui, "TITLE HEADER", title);
+    EXPECT_EQ(s.build.setupValues.SubmitAlign, "center");
+    EXPECT_EQ(s.build.values.ALIGN, "center");
+    EXPECT_EQ(s.build.values.TextColorHex, "FFFFFF"); // FORM with its frame keeps the colour
+}
+
+TEST_F(SetupRead, SampleFromHoldsTheBuildOnTheEditPage)
+{
+    Read(SetupText(false, ";My Web Page"));
+    EXPECT_TRUE(s.build.setupHold);
+    ASSERT_EQ(ui.editCalls.size(), 1u);
+    EXPECT_EQ(ui.editCalls[0].page, 1);
+    EXPECT_EQ(ui.editCalls[0].row, 0);
+    ASSERT_EQ(ui.shown.size(), 1u);
+    EXPECT_EQ(ui.last().title, "INVALID ENTRIES");
+    EXPECT_EQ(ui.last().icon, Icon::Exclamation);
+    EXPECT_EQ(ui.last().text,
+              "THERE ARE ERRORS THAT NEED TO BE CORRECTED BEFORE YOU CAN BUILD YOUR FORM IN SETUP\r\r"
+              "A SEMI-COLON(;) WAS PLACED IN THE FIRST COLUMN AS A FLAG FOR YOU TO MAKE CHANGES\r\r"
+              "YOU CAN CLICK ON HELP IN THE EDIT WINDOW TO HELP YOU WITH THE DESCRIPTION OF EACH ENTRY\r\r"
+              "THE FOLLOWING NEED CORRECTIONS\r\rFROM\r;My Web Page\r\rCompleted\r;thankyou.htm\r\r"
+              "EMAIL #1\r;webmaster@tarnquill.example\r\r"
+              "CLICK OK AND WE WILL TAKE YOU TO THE EDIT SCREEN. THEN REMOVE THE SEMI-COLON AND CORRECT THE ERRORS "
+              "ON ALL ENTRIES THAT ARE HIGHLIGHTED IN RED\r\r");
+}
+
+TEST_F(SetupRead, SampleCompletedStopsTheBuild)
+{
+    Read(SetupText(true, "Club", ";thankyou.htm"), "SURVEY");
+    EXPECT_EQ(s.build.buildError, 1);
+    EXPECT_FALSE(s.build.setupHold);
+    EXPECT_EQ(ui.last().title, "NAME INVALID");
+    EXPECT_EQ(ui.last().text,
+              "INPUT TYPE ---> SETUP ---> COMPLETED <---\r\rCANNOT HAVE A SEMI COLON. (;thankyou.htm)\r\r"
+              "CLICK ON THE EDIT BUTTON NEXT TO THE SETUP INPUT TYPE AND REPLACE IT WITH YOUR OWN THANK YOU PAGE\r\r"
+              "NOTE: THIS IS THE FILE THAT COMES UP ON THE USER'S WEB PAGE AFTER THE USER COMPLETES THE SURVEY");
+}
+
+TEST_F(SetupRead, AnEntryPreviewSkipsTheSampleChecks)
+{
+    s.build.entryPreview = true;
+    Read(SetupText(false, ";My Web Page", ";thankyou.htm"));
+    EXPECT_EQ(s.build.buildError, 0);
+    EXPECT_FALSE(s.build.setupHold);
+    EXPECT_TRUE(ui.shown.empty());
+}
+
+TEST_F(SetupRead, AMissingHelpItemStops)
+{
+    Read("[Drive Folder Path=/srv/www] [TQL Output File=formtql.htm] [Info: x]");
+    EXPECT_EQ(s.build.buildError, 1);
+    EXPECT_EQ(ui.last().text, "Cannot find left [ bracket in [INFO:\r\r[TQL Output File=formtql.htm]");
+}
+
+class LineChecks : public ::testing::Test
+{
+  protected:
+    Session s;
+    ScriptedPort ui;
+    tq::test::TempDir dir;
+
+    void SetUp() override { s.DataFolder = dir.path(); }
+
+    /// The text of the fault, or "" when the row passes.
+    std::string Check(std::string_view key, std::string value, int commitMode = 0)
+    {
+        s.store.state.commitMode = commitMode;
+        ui.clear();
+        int err = -1;
+        CheckAttribute(s, ui, key, value, err);
+        lastValue = value;
+        if (err == 0) {
+            EXPECT_TRUE(ui.shown.empty());
+            return {};
+        }
+        EXPECT_EQ(err, 1);
+        EXPECT_EQ(ui.last().title, "ERROR");
+        EXPECT_EQ(ui.last().icon, Icon::Exclamation);
+        return ui.last().text;
+    }
+    std::string lastValue;
+};
+
+TEST_F(LineChecks, BlankAndShortValues)
+{
+    EXPECT_EQ(Check("Align", "\r\n"), "ALIGN\rCANNOT BE LEFT BLANK");
+    EXPECT_EQ(Check("Title", "ab"), "Title\rcannot be left blank");
+    EXPECT_EQ(Check("Error Message", ""), "ERROR MESSAGE\rCANNOT BE LEFT BLANK");
+    EXPECT_EQ(Check("Error Message", "????"), "ERROR MESSAGE\rCANNOT HAVE A ????");
+    EXPECT_EQ(Check("GLOBAL TEXT COLOR", ""), "");
+}
+
+TEST_F(LineChecks, ChoiceValues)
+{
+    EXPECT_EQ(Check("loop", "infinite"), "");
+    EXPECT_EQ(Check("loop", "10"), "LOOP\rMUST BE SET TO 1,2,3,4,5,6,7,8,9 or Infinite");
+    EXPECT_EQ(Check("AutoStart", "sometimes"), "AUTOSTART\rMUST BE SET TO EITHER ON, OFF OR MOUSEOVER");
+    EXPECT_EQ(Check("Required", "yes"), "");
+    EXPECT_EQ(Check("Visible Download", "maybe"), "VISIBLE DOWNLOAD\rMUST BE SET TO EITHER YES OR NO");
+    EXPECT_EQ(Check("Bold", "of"), "BOLD\rMUST BE SET TO EITHER ON OR OFF");
+    EXPECT_EQ(Check("Picture Align", "middle"), "PICTURE ALIGN\rMUST BE SET TO LEFT, RIGHT OR CENTER");
+}
+
+TEST_F(LineChecks, NumbersAndWidths)
+{
+    EXPECT_EQ(Check("Title Shade Width", "40"), "TITLE SHADE WIDTH\rMUST HAVE A % AFTER THE TITLE SHADE WIDTH\r"
+                                                "EXAMPLE: 40%");
+    EXPECT_EQ(Check("Title Shade Width", "40%"), "");
+    EXPECT_EQ(Check("Line Width", "wide%"), "LINE WIDTH\rMUST HAVE A NUMBER");
+    EXPECT_EQ(Check("Title Size", "3"), "");
+    EXPECT_EQ(Check("Video Height", "tall"), "VIDEO HEIGHT\rMUST HAVE A NUMBER");
+}
+
+TEST_F(LineChecks, LinksAndServerPaths)
+{
+    EXPECT_EQ(Check("Link To", ";index.htm"),
+              "LINK TO\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB PAGE LINK.\r\r"
+              "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN THE USER CLICKS ON THE CANCEL BUTTON\r\r"
+              "Example: index.htm");
+    EXPECT_EQ(Check("Link To", "index"),
+              "LINK TO\rDOES NOT HAVE A VALID URL WEB LINK. MISSING THE PERIOD\r\rExample: index.htm");
+    EXPECT_EQ(Check("Link To", "&nbsp;a.htm"), "LINK TO\rCANNOT START WITH A SPACE\r\rPLEASE REMOVE THE SPACE");
+    EXPECT_EQ(Check("Thank You File", ";x.htm"),
+              "THANK YOU FILE\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB SERVER PATH\r\r"
+              "NOTE: THIS IS THE FILE THAT THE USER IS TAKEN TO AFTER THE USER DOWNLOADS THE FILES\r\r"
+              "Example: https://www.tarnquill.example/thankyou.htm\r\r"
+              "PLEASE REMOVE THE SEMI-COLON(;) AND ENTER YOUR OWN WEB SERVER PATH");
+    EXPECT_EQ(Check("Server Download", "myfiles"), "SERVER DOWNLOAD\rDOES NOT HAVE A VALID URL WEB LINK. MISSING\r"
+                                                   "www.\r\rExample: https://www.tarnquill.example/test");
+    EXPECT_EQ(Check("Server Video Path", ";v.mp4"),
+              "--- Server Video Path --- \rMUST NOT START WITH A SEMI COLON (;)\r\r"
+              "PLEASE REMOVE THE SEMI COLON AND ENTER YOUR OWN VIDEO.\r\r"
+              "THIS IS THE ABSOLUTE PATH THAT'S LOCATED ON YOUR WEB SERVER\r\rREMOVE THE SEMI COLON (;) WHEN DONE");
+}
+
+TEST_F(LineChecks, SetupKeys)
+{
+    s.store.state.ProjectMode = "FORM";
+    EXPECT_EQ(Check("FROM", ";My Web Page", 0), "");
+    EXPECT_EQ(Check("FROM", ";My Web Page", 10),
+              "--- FROM --- \rPLEASE CHANGE THE FROM TITLE TO YOUR OWN PERSONAL TITLE.\r\r"
+              "THE FROM TITLE IS THE EMAIL FROM TITLE THAT YOU RECEIVE WHEN THE USER COMPLETES THE FORM\r\r"
+              "REMOVE THE SEMI COLON (;) WHEN DONE");
+    EXPECT_EQ(Check("FROM", "a@b"), "FROM\rCANNOT HAVE A @ SYMBOL\r\rREMOVE THE a@b\r SYMBOL");
+    EXPECT_EQ(Check("Completed", ";thankyou.htm", 10).substr(0, 20), "--- COMPLETED --- \rP");
+    EXPECT_EQ(Check("Completed", "thankyou.htm", 10), "");
+    EXPECT_EQ(Check("Completed", "thanks.html"), "");
+    EXPECT_EQ(Check("Completed", "thanks.txt"), "COMPLETED\rMUST CONTAIN AN EXTENSION OF .HTM");
+    EXPECT_EQ(Check("TQL Output File", "c:formtql.htm"), "TQL OUTPUT FILE\rCANNOT CONTAIN A : IN THE FILENAME");
+    EXPECT_EQ(Check("Drive Folder Path", dir.path()), "");
+    EXPECT_EQ(Check("Drive Folder Path", dir.path() + "/gone"),
+              tq::build::Upper(dir.path() + "/gone") +
+                  "\rFOLDER DOES NOT EXIST\r\rCHANGE THE FOLDER PATH TO A VALID FOLDER\r\r"
+                  "USE THE EDIT BUTTON TO BROWSE FOR YOUR FOLDER PATH");
+}
+
+TEST_F(LineChecks, EmailAddresses)
+{
+    EXPECT_EQ(Check("Email #1", ";me@club.example"),
+              "EMAIL #1\rMUST NOT HAVE A SEMI COLON(;)\r\rNOTE: PLEASE CHANGE THE EMAIL ADDRESS AND REPLACE IT WITH "
+              "YOUR OWN PERSONAL EMAIL ADDRESS AND LEAVE OUT THE SEMI-COLON (;)\r\rExample: "
+              "webmaster@tarnquill.example");
+    EXPECT_EQ(Check("Email #1", "none"), "NONE\rIS NOT A VALID EMAIL ADDRESS\r\rREPLACE NONE\r WITH A VALID EMAIL "
+                                         "ADDRESS");
+    EXPECT_EQ(Check("Email #1", "me.club"), "ME.CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ SYMBOL");
+    EXPECT_EQ(Check("Email #1", "me@club"), "ME@CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD");
+    EXPECT_EQ(Check("Email #1", "me@club.example"), "");
+    EXPECT_EQ(Check("Email #2", "NONE"), "");
+    EXPECT_EQ(Check("Default Email Address", "me@club"),
+              "ME@CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD\r\r"
+              "IF YOU DON'T WANT TO ADD ANOTHER EMAIL ADDRESS, THEN NONE MUST BE THE DEFAULT\r\r"
+              "WE HAVE CHANGED THE DEFAULT TO NONE");
+    EXPECT_EQ(lastValue, "none");
+    EXPECT_NE(Check("Email #3", "me.club").find("\rREQUIRES A @ SYMBOL\r\r"), std::string::npos);
+    EXPECT_EQ(lastValue, "none");
+}
+
+TEST_F(LineChecks, AFaultRestoresTheTextAndMarksTheCommit)
+{
+    tq::test::WriteFileBytes(dir.file("tempStore.txt"), "[Title=Before]\r\n");
+    tq::test::WriteFileBytes(dir.file("temp11.txt"), "[Title=ab]\r\n");
+    EXPECT_NE(Check("Title", "ab"), "");
+    EXPECT_EQ(tq::test::ReadFileBytes(dir.file("temp11.txt")), "[Title=Before]\r\n");
+    EXPECT_TRUE(s.store.state.CommitFailed);
+}
+
+TEST_F(LineChecks, AnEntryPreviewTestsNothing)
+{
+    EXPECT_EQ(Check("Title", "", 11), "");
+    EXPECT_FALSE(s.store.state.CommitFailed);
+}
+
+} // namespace
