@@ -1,20 +1,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/php_pass.h"
 
-// The script writers of the php subsystem are called from these functions.
-// Until they are in place the PHP pass runs through every Entry (so that
-// every check of the extraction runs a second time) and writes no script text.
+#include "php/entry_php.h"
+#include "php/script_skeleton.h"
+
+// The PHP pass hands each part of the script to the writers of the php
+// subsystem; the driver keeps the files, these write the text on channel 1
+// (and the download checks on channel 2).
 
 namespace tq::build {
 
-void WriteScriptHead(Session&, UiPort&) {}
+void WriteScriptHead(Session& s, UiPort&)
+{
+    php::WriteScriptOpening(s.build.channels[1]);
+}
 
-void WriteValidationBanner(Session&, UiPort&) {}
+void WriteValidationBanner(Session& s, UiPort&)
+{
+    php::WriteValidationBanner(s.build.channels[1], s.build.setupValues);
+}
 
-void WriteEntryPhp(Session&, UiPort&, PhpWriter, std::string_view, std::string_view) {}
+// The writer is chosen by Input Type: the download writer for the three
+// download types, the general writer for the rest.
+void WriteEntryPhp(Session& s, UiPort& ui, PhpWriter, std::string_view fieldName, std::string_view inputType)
+{
+    php::WriteEntryPhp(ui, s.build, inputType, fieldName);
+}
 
-void WriteOptionLines(Session&, UiPort&) {}
+void WriteOptionLines(Session& s, UiPort&)
+{
+    php::WriteOptionLines(s.build.channels[1]);
+}
 
-void WriteScriptTail(Session&, UiPort&) {}
+void WriteScriptTail(Session& s, UiPort&)
+{
+    // the links of the download page: the [SERVER DOWNLOAD= folder as the
+    // reader kept it, of the last download Entry
+    php::WriteScriptTail(s.build.channels[1], s.build, s.build.values.ServerFolderPath);
+}
 
 } // namespace tq::build

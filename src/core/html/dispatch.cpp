@@ -173,6 +173,9 @@ void DispatchEntry(Session& s,
         return;
     default:
         WriteQuestion(s, ui, row.writer, fieldName, t);
+        // the script's mail subject; kept for later builds of this run
+        if (t == "SUBJECT" && !survey)
+            b.mailSubject = v.DefaultValue;
         break;
     }
     if (SetsConditionField(row.writer, survey))
