@@ -5,6 +5,7 @@
 #include "model/catalogue.h"
 #include "model/entry_store.h"
 #include "model/settings.h"
+#include "show/show_settings.h"
 #include "store/run_values.h"
 #include "store/setup_store.h"
 
@@ -23,6 +24,7 @@ struct Session
     store::SetupStore setup;
     store::RunValues run;
     std::string DataFolder;
+    show::ShowPage photoShow;
 };
 
 } // namespace tq
