@@ -1,20 +1,183 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "build/build_driver.h"
 #include "commands.h"
+#include "console_port.h"
+#include "port/platform.h"
+#include "session.h"
+#include "store/project_file.h"
+#include "store/text_file.h"
 
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <optional>
 #include <ostream>
 
 namespace tq::cli {
 
+namespace {
+
+struct BuildOptions
+{
+    std::string file;
+    std::string mode; // FORM or SURVEY; empty: by the file's extension
+    bool wholePage = false;
+    bool replace = false;
+    std::optional<std::string> dataFolder;
+    std::optional<std::string> webFolder;
+};
+
+int Usage(std::ostream& err, const std::string& why)
+{
+    err << "tarnquill-cli: " << why << "\n"
+        << "usage: tarnquill-cli build FILE [--mode form|survey] [--whole-page] [--data-folder DIR] [--replace] "
+           "[--web-folder DIR]\n";
+    return 2;
+}
+
+// The mode word of the command line, or empty when it is neither.
+std::string ModeWord(const std::string& word)
+{
+    const std::string upper = store::Upper(word);
+    return upper == "FORM" || upper == "SURVEY" ? upper : std::string();
+}
+
+std::string ModeOfFile(const std::string& path)
+{
+    return store::Upper(std::filesystem::path(path).extension().string()) == ".SRV" ? "SURVEY" : "FORM";
+}
+
+// The folder named by "\Tarnquill.stt" in the fixed folder of this machine.
+std::optional<std::string> DefaultDataFolder()
+{
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || *home == '\0')
+        return std::nullopt;
+    const std::string fixed = std::string(home) + "/Documents/tarnquill/forms";
+    const auto bytes = store::ReadWholeFile(platform::JoinPath(fixed, "\\Tarnquill.stt"));
+    if (!bytes)
+        return std::nullopt;
+    const auto lines = store::SplitFileLines(*bytes);
+    if (lines.empty() || lines[0].empty())
+        return std::nullopt;
+    return lines[0];
+}
+
+// Puts `folder` in place of the [DRIVE FOLDER PATH= value of a SetupEntry's
+// text; false when the text has no such key.
+bool ReplaceDriveFolderPath(std::string& text, const std::string& folder)
+{
+    static constexpr std::string_view kKey = "[DRIVE FOLDER PATH=";
+    const size_t pos = store::Upper(text).find(kKey);
+    if (pos == std::string::npos)
+        return false;
+    const size_t start = pos + kKey.size();
+    size_t end = text.find_first_of("]\r\n", start);
+    if (end == std::string::npos)
+        end = text.size();
+    text.replace(start, end - start, folder);
+    return true;
+}
+
+std::optional<BuildOptions> ParseBuild(const std::vector<std::string>& args, std::ostream& err)
+{
+    BuildOptions o;
+    for (size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        const bool hasValue = i + 1 < args.size();
+        if (a == "--whole-page") {
+            o.wholePage = true;
+        } else if (a == "--replace") {
+            o.replace = true;
+        } else if (a == "--mode" || a == "--data-folder" || a == "--web-folder") {
+            if (!hasValue) {
+                Usage(err, a + " needs a value");
+                return std::nullopt;
+            }
+            const std::string& v = args[++i];
+            if (a == "--mode") {
+                o.mode = ModeWord(v);
+                if (o.mode.empty()) {
+                    Usage(err, "--mode is form or survey, not '" + v + "'");
+                    return std::nullopt;
+                }
+            } else if (a == "--data-folder") {
+                o.dataFolder = v;
+            } else {
+                o.webFolder = v;
+            }
+        } else if (!a.empty() && a[0] == '-') {
+            Usage(err, "unknown option '" + a + "'");
+            return std::nullopt;
+        } else if (o.file.empty()) {
+            o.file = a;
+        } else {
+            Usage(err, "more than one FILE");
+            return std::nullopt;
+        }
+    }
+    if (o.file.empty()) {
+        Usage(err, "build needs a FILE");
+        return std::nullopt;
+    }
+    return o;
+}
+
+} // namespace
+
 int CmdNew(const std::vector<std::string>&, std::ostream&, std::ostream& err)
 {
+    // needs the new-project rows of the catalogue
     err << "tarnquill-cli: 'new' is not available in this build\n";
     return 2;
 }
 
-int CmdBuild(const std::vector<std::string>&, std::ostream&, std::ostream& err)
+int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {
-    err << "tarnquill-cli: 'build' is not available in this build\n";
-    return 2;
+    const auto options = ParseBuild(args, err);
+    if (!options)
+        return 2;
+    const BuildOptions& o = *options;
+
+    auto s = std::make_unique<Session>();
+    if (o.dataFolder) {
+        s->DataFolder = *o.dataFolder;
+    } else if (auto folder = DefaultDataFolder()) {
+        s->DataFolder = *folder;
+    } else {
+        return Usage(err, "no data folder: Tarnquill.stt names none; pass --data-folder DIR");
+    }
+    std::error_code ec;
+    if (!std::filesystem::is_directory(s->DataFolder, ec))
+        return Usage(err, "the data folder " + s->DataFolder + " does not exist");
+
+    const auto bytes = store::ReadWholeFile(o.file);
+    if (!bytes) {
+        err << "tarnquill-cli: cannot read " << o.file << "\n";
+        return 1;
+    }
+    s->store.state.ProjectMode = o.mode.empty() ? ModeOfFile(o.file) : o.mode;
+    auto reader = store::ReaderOf(*bytes);
+    store::ReadEntries(s->store, reader);
+    s->store.state.CurrentFileName = o.file;
+
+    if (o.webFolder && !ReplaceDriveFolderPath(s->store.pages[0][0].AttributeText, *o.webFolder)) {
+        err << "tarnquill-cli: the SetupEntry of " << o.file << " has no [DRIVE FOLDER PATH= to replace\n";
+        return 1;
+    }
+
+    ConsolePort port(err);
+    port.replace = o.replace;
+    if (o.wholePage)
+        build::CreateFormHTMLCode(*s, port);
+    else
+        build::CreateFormOnly(*s, port);
+
+    const auto& b = s->build;
+    if (b.buildError != 0 || b.setupHold || b.cancelled || b.endProgram)
+        return 1;
+    out << b.htmlPath << "\n" << b.phpPath << "\n";
+    return 0;
 }
 
 } // namespace tq::cli

@@ -1,0 +1,320 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The build driver: output paths, the folder test, the questions about
+// existing output files and their answers, preview builds.
+#include "build/build_driver.h"
+#include "scripted_port.h"
+#include "session.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+using tq::Answer;
+using tq::Buttons;
+using tq::Icon;
+using tq::build::BuildOutput;
+using tq::test::ReadFileBytes;
+using tq::test::ScriptedPort;
+using tq::test::TempDir;
+using tq::test::WriteFileBytes;
+
+namespace {
+
+// A SetupEntry whose values all build: the FORM template's keys in order,
+// each closed by its help item.
+std::string SetupText(const std::string& folder, const std::string& output)
+{
+    return "[Drive Folder Path=" + folder + "] [Info: folder]\r\n" + "[TQL Output File=" + output +
+           "] [Info: file]\r\n"
+           "[FROM=My Web Page] [Info: from]\r\n"
+           "[Completed=thankyou.htm] [Info: page]\r\n"
+           "[GLOBAL ALIGN=NONE] [Info: align]\r\n"
+           "[GLOBAL TEXT COLOR=NONE] [Choices=NONE]\r\n"
+           "[Submit Name=Submit Form] [Info: name]\r\n"
+           "[SUBMIT ALIGN=LEFT] [Choices=left]\r\n"
+           "[Submit Button Color=0] [Choices=colour]\r\n"
+           "[Background image path=;https://www.tarnquill.example/test/cloudark.gif] [Info: image]\r\n"
+           "[Email #1=webmaster@tarnquill.example] [Info: mail]\r\n"
+           "[Email #2=none] [Info: mail]\r\n"
+           "[Email #3=none] [Info: mail]\r\n"
+           "[Number Each Question=YES] [Info: numbers]\r\n"
+           "[Show Tool Tips=YES] [Info: tips]\r\n"
+           "[Include Frame With Form=NO] [Info: frame]\r\n"
+           "[Frame Border Color=52736] [Info: colour]\r\n"
+           "[Frame Color=16384] [Info: colour]\r\n"
+           "[Total Frames=1] [Info: frames]\r\n";
+}
+
+struct Project
+{
+    TempDir web;
+    TempDir data;
+    std::unique_ptr<tq::Session> s = std::make_unique<tq::Session>();
+
+    explicit Project(const std::string& output = "formtql.htm")
+    {
+        s->DataFolder = data.path();
+        s->store.state.ProjectMode = "FORM";
+        auto& setupRow = s->store.pages[0][0];
+        setupRow.InputTypeName = "Setup";
+        setupRow.AttributeText = SetupText(web.path(), output);
+        PresetSetupValues(output);
+    }
+
+    // The values the build reads from SetupText, set beforehand as well so
+    // that the driver's own steps are tested apart from that read.
+    void PresetSetupValues(const std::string& output)
+    {
+        auto& v = s->build.setupValues;
+        v.WebFolder = web.path();
+        v.OutputName = output;
+        v.GlobalAlign = "NONE";
+        v.GlobalTextColor = "NONE";
+        v.SubmitName = "Submit Form";
+        v.SubmitAlign = "LEFT";
+        v.SubmitButtonColor = "0";
+        v.SubmitButtonColorHex = "000000";
+        v.BackgroundImagePath = ";https://www.tarnquill.example/test/cloudark.gif";
+        v.IncludeFrame = "NO";
+        v.FrameOff = 1;
+        v.TotalFrames = 1;
+    }
+
+    std::string html() const { return web.file("formtql.htm"); }
+    std::string php() const { return web.file("formtql.php"); }
+};
+
+const std::string kPageOfSetupOnly = "<form action=\"formtql.php\" method=\"post\">\r\n"
+                                     "\r\n"
+                                     "<p align=\"LEFT\">\r\n"
+                                     "<input type=\"submit\" style=\"color: 000000\" value=\"Submit Form\"></p>\r\n"
+                                     "</form>\r\n";
+
+} // namespace
+
+TEST(OutputPaths, HtmlPathGetsASeparatorUnlessTheFolderEndsInOne)
+{
+    using tq::build::ComposeHtmlPath;
+    EXPECT_EQ(ComposeHtmlPath("/srv/web", "formtql.htm"), "/srv/web/formtql.htm");
+    EXPECT_EQ(ComposeHtmlPath("/srv/web/", "formtql.htm"), "/srv/web/formtql.htm");
+    EXPECT_EQ(ComposeHtmlPath("c:\\users\\", "formtql.htm"), "c:\\users\\formtql.htm");
+}
+
+TEST(OutputPaths, PhpPathAlwaysGetsASeparatorAndTheNameCutBehindTheFirstHtm)
+{
+    using tq::build::ComposeFormAction;
+    using tq::build::ComposePhpPath;
+    EXPECT_EQ(ComposeFormAction("formtql.HTM"), "formtql.php");
+    EXPECT_EQ(ComposeFormAction("formtql.htm"), "formtql.php");
+    EXPECT_EQ(ComposeFormAction("my.Html"), "my.php");
+    EXPECT_EQ(ComposeFormAction("a.htm.htm"), "a.php");
+    EXPECT_EQ(ComposeFormAction("page.txt"), "php");
+    EXPECT_EQ(ComposeFormAction(""), "php");
+    EXPECT_EQ(ComposePhpPath("/srv/web", "formtql.HTM"), "/srv/web/formtql.php");
+    EXPECT_EQ(ComposePhpPath("/srv/web/", "formtql.htm"), "/srv/web//formtql.php");
+    EXPECT_EQ(ComposePhpPath("/srv/web", "index.asp"), "/srv/web/php");
+}
+
+TEST(OutputPaths, TheFolderOfTheFolderTestIsReadSilentlyFromTheSetupText)
+{
+    using tq::build::PeekDriveFolderPath;
+    EXPECT_EQ(PeekDriveFolderPath("[Drive Folder Path=/srv/web] [Info: x]"), "/srv/web");
+    EXPECT_EQ(PeekDriveFolderPath("[Background Color=1]\r\n[DRIVE FOLDER PATH=/a b/]\r\n"), "/a b/");
+    EXPECT_EQ(PeekDriveFolderPath("[Drive Folder Path=/srv/web"), "/srv/web");
+    EXPECT_EQ(PeekDriveFolderPath("[Title=x]"), "");
+}
+
+TEST(FolderTest, LeavesNoScratchFileBehind)
+{
+    TempDir dir;
+    EXPECT_TRUE(tq::build::FolderTest(dir.path()));
+    EXPECT_FALSE(std::filesystem::exists(dir.file("temp.ttt")));
+    EXPECT_FALSE(tq::build::FolderTest(dir.file("missing")));
+}
+
+TEST(BuildDriver, AMissingWebFolderGivesPathErrorAndOpensTheSetupEntry)
+{
+    Project p;
+    const std::string missing = p.web.file("gone");
+    p.s->store.pages[0][0].AttributeText = SetupText(missing, "formtql.htm");
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(p.s->build.buildError, 1);
+    ASSERT_EQ(port.shown.size(), 1u);
+    EXPECT_EQ(port.last().title, "PATH ERROR");
+    EXPECT_EQ(port.last().icon, Icon::Critical);
+    EXPECT_EQ(port.last().text,
+              "The path to the current web folder does not exist\r\rPath: " + missing +
+                  "   does not exist\r\rThe invalid path will now be highlighted. Please correct the error and try "
+                  "again");
+    ASSERT_EQ(port.editCalls.size(), 1u);
+    EXPECT_EQ(port.editCalls[0].page, 1);
+    EXPECT_EQ(port.editCalls[0].row, 0);
+    EXPECT_EQ(port.busyCalls.back(), false);
+    EXPECT_FALSE(p.s->build.inProgress);
+}
+
+TEST(BuildDriver, FirstBuildInAnEmptyFolderAsksNothing)
+{
+    Project p;
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(p.s->build.buildError, 0);
+    EXPECT_TRUE(port.messages().empty());
+    EXPECT_EQ(p.s->build.htmlPath, p.html());
+    EXPECT_EQ(p.s->build.phpPath, p.php());
+    EXPECT_EQ(p.s->build.formAction, "formtql.php");
+    EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
+    EXPECT_TRUE(std::filesystem::exists(p.php()));
+    EXPECT_FALSE(std::filesystem::exists(p.web.file("temp.ttt")));
+    EXPECT_EQ(port.busyCalls.back(), false);
+}
+
+TEST(BuildDriver, ExistingFilesAreReplacedAfterNoToTheFolderAndYesToTheDuplicate)
+{
+    Project p;
+    WriteFileBytes(p.html(), "old page");
+    WriteFileBytes(p.php(), "old script");
+    ScriptedPort port;
+    port.answer(Answer::No);
+    port.answer(Answer::Yes);
+    BuildOutput(*p.s, port, 1);
+    ASSERT_EQ(port.shown.size(), 2u);
+    const auto& folder = port.shown[0];
+    EXPECT_EQ(folder.title, "EDIT SETUP");
+    EXPECT_EQ(folder.buttons, Buttons::YesNoCancel);
+    EXPECT_EQ(folder.defaultButton, 2);
+    EXPECT_EQ(folder.text, p.web.path() +
+                               "\r is the current folder where all the files that Tarnquill creates will be stored\r\r"
+                               "Do you want to change the folder path?");
+    const auto& duplicate = port.shown[1];
+    EXPECT_EQ(duplicate.title, "Duplicate File");
+    EXPECT_EQ(duplicate.buttons, Buttons::YesNo);
+    EXPECT_EQ(duplicate.text, p.php() + "\r and \r" + p.html() +
+                                  "\r exist\r\rThese are output files that Tarnquill previously created.\r\r"
+                                  "Do you want to replace them with the new created Tarnquill output files?");
+    EXPECT_EQ(p.s->build.buildError, 0);
+    EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
+}
+
+TEST(BuildDriver, NoToReplacingSaysChangeFileAndStops)
+{
+    Project p;
+    WriteFileBytes(p.html(), "old page");
+    WriteFileBytes(p.php(), "old script");
+    ScriptedPort port;
+    port.answer(Answer::No);
+    port.answer(Answer::No);
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(p.s->build.buildError, 1);
+    ASSERT_EQ(port.shown.size(), 3u);
+    EXPECT_EQ(port.last().title, "CHANGE FILE");
+    EXPECT_EQ(port.last().icon, Icon::Exclamation);
+    EXPECT_EQ(port.last().text, "Change " + p.php() + " in setup and try again");
+    EXPECT_EQ(ReadFileBytes(p.html()), "old page");
+    EXPECT_EQ(ReadFileBytes(p.php()), "old script");
+    EXPECT_TRUE(port.editCalls.empty());
+}
+
+TEST(BuildDriver, YesToChangingTheFolderOpensTheFolderLine)
+{
+    Project p;
+    WriteFileBytes(p.html(), "old page");
+    WriteFileBytes(p.php(), "old script");
+    ScriptedPort port;
+    port.answer(Answer::Yes);
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(p.s->build.buildError, 1);
+    EXPECT_EQ(p.s->build.folderJump, 0);
+    EXPECT_TRUE(port.messages().empty());
+    ASSERT_EQ(port.editCalls.size(), 1u);
+    EXPECT_EQ(port.editCalls[0].key, "DRIVE FOLDER PATH");
+    EXPECT_EQ(ReadFileBytes(p.html()), "old page");
+}
+
+TEST(BuildDriver, CancelLeavesWithoutAWord)
+{
+    Project p;
+    WriteFileBytes(p.html(), "old page");
+    WriteFileBytes(p.php(), "old script");
+    ScriptedPort port;
+    port.answer(Answer::Cancel);
+    BuildOutput(*p.s, port, 1);
+    EXPECT_TRUE(p.s->build.cancelled);
+    EXPECT_EQ(port.shown.size(), 1u);
+    EXPECT_TRUE(port.editCalls.empty());
+    EXPECT_EQ(ReadFileBytes(p.html()), "old page");
+    EXPECT_EQ(port.busyCalls.back(), false);
+}
+
+TEST(BuildDriver, AMissingPageBesideAnExistingScriptIsCreatedAndBothQuestionsCome)
+{
+    Project p;
+    WriteFileBytes(p.php(), "old script");
+    ScriptedPort port;
+    port.answer(Answer::No);
+    port.answer(Answer::No);
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(port.shown.size(), 3u);
+    EXPECT_TRUE(std::filesystem::exists(p.html()));
+    EXPECT_EQ(ReadFileBytes(p.html()), "");
+}
+
+TEST(BuildDriver, AfterTheReminderCounterPassedOneFilesAreReplacedSilently)
+{
+    Project p;
+    WriteFileBytes(p.html(), "old page");
+    WriteFileBytes(p.php(), "old script");
+    p.s->build.reminderCounter = 2;
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_TRUE(port.shown.empty());
+    EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
+}
+
+TEST(BuildDriver, PreviewWritesToTheDataFolderAndLeavesTheWebFolderAlone)
+{
+    Project p;
+    WriteFileBytes(p.html(), "old page");
+    p.s->build.entryPreview = true;
+    p.s->build.editPreview = true;
+    p.s->build.wholePage = true;
+    p.s->store.state.PreviewSlots[0] = {"Blank Line", "[New Line=0]\r\n"};
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 0);
+    EXPECT_EQ(p.s->build.buildError, 0);
+    EXPECT_TRUE(port.shown.empty());
+    EXPECT_EQ(p.s->build.htmlPath, p.data.file("Preview.htm"));
+    EXPECT_EQ(p.s->build.phpPath, p.data.file("Preview.php"));
+    const std::string page = ReadFileBytes(p.data.file("Preview.htm"));
+    EXPECT_EQ(page.rfind("<html>\r\n<body>\r\n\r\n<form action=\"\" method=\"post\">\r\n", 0), 0u);
+    EXPECT_NE(page.find("</body>\r\n</html>\r\n"), std::string::npos);
+    // no script for an Entry preview, no word about publishing
+    EXPECT_FALSE(std::filesystem::exists(p.data.file("Preview.php")));
+    EXPECT_TRUE(port.views.empty());
+    EXPECT_EQ(ReadFileBytes(p.html()), "old page");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(p.web.path()), {}), 1);
+}
+
+TEST(BuildDriver, WholePageCommandWrapsThePageAndClearsItsFlagAfterwards)
+{
+    Project p;
+    ScriptedPort port;
+    tq::build::CreateFormHTMLCode(*p.s, port);
+    EXPECT_EQ(p.s->build.buildError, 0);
+    EXPECT_FALSE(p.s->build.wholePage);
+    EXPECT_EQ(ReadFileBytes(p.html()), "<html>\r\n<body>\r\n\r\n" + kPageOfSetupOnly + "</body>\r\n</html>\r\n");
+}
+
+TEST(BuildDriver, ARealBuildClearsThePreviewFlags)
+{
+    Project p;
+    p.s->build.entryPreview = true;
+    p.s->build.editPreview = true;
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_FALSE(p.s->build.entryPreview);
+    EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
+    EXPECT_FALSE(std::filesystem::exists(p.data.file("Preview.htm")));
+}

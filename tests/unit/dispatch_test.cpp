@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The dispatch table and the writers of the Input Types that ask no question:
+// horizontal line, title shade, blank line, video and picture.
+#include "html/dispatch.h"
+#include "html/titles_lines.h"
+#include "model/attribute_text.h"
+#include "scripted_port.h"
+#include "session.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+using tq::build::PhpWriter;
+using tq::html::DispatchRow;
+using tq::html::EntryWriter;
+using tq::html::LookUpEntry;
+using tq::test::ReadFileBytes;
+using tq::test::ScriptedPort;
+using tq::test::TempDir;
+
+namespace {
+
+std::string Golden(const std::string& name)
+{
+    return ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/html/entries/" + name);
+}
+
+std::unique_ptr<tq::Session> MakeSession(const std::string& mode)
+{
+    auto s = std::make_unique<tq::Session>();
+    s->store.state.ProjectMode = mode;
+    return s;
+}
+
+// Runs `write` with channel 1 on a scratch file and returns what it wrote.
+std::string Capture(tq::Session& s, const std::function<void()>& write)
+{
+    TempDir dir;
+    const std::string path = dir.file("out.htm");
+    EXPECT_TRUE(s.build.channels[1].open(path));
+    write();
+    s.build.channels.closeAll();
+    return ReadFileBytes(path);
+}
+
+void SetVideo(tq::build::WorkingValues& v, const std::string& path)
+{
+    v.ServerPath = path;
+    v.ALIGN = "left"; // left by the Entry before: the wrapper table takes it
+    v.VideoAlign = "right";
+    v.VideoWidth = "320";
+    v.VideoHeight = "240";
+    v.Autostart = "off";
+    v.Loop = "infinite";
+}
+
+void SetPicture(tq::build::WorkingValues& v)
+{
+    v.ServerPath = "https://www.tarnquill.example/test/cloudark.gif";
+    v.ALIGN = "center";
+    v.PictureWidth = "200";
+    v.PictureHeight = "100";
+}
+
+class BothModes : public ::testing::TestWithParam<std::string>
+{
+};
+
+} // namespace
+
+TEST(DispatchTable, NamesAreComparedUpperCasedAndWhole)
+{
+    EXPECT_EQ(LookUpEntry("name").writer, EntryWriter::Text);
+    EXPECT_EQ(LookUpEntry("Horizontal Line").writer, EntryWriter::HorizontalLine);
+    EXPECT_EQ(LookUpEntry("Horizontal Line").php, PhpWriter::None);
+    EXPECT_EQ(LookUpEntry("TITLE").writer, EntryWriter::None);
+    EXPECT_EQ(LookUpEntry("Name ").writer, EntryWriter::None);
+    EXPECT_EQ(LookUpEntry("Setup").writer, EntryWriter::None);
+    EXPECT_EQ(LookUpEntry("Nonsense Type").writer, EntryWriter::None);
+}
+
+TEST(DispatchTable, PhpWriterFollowsTheTable)
+{
+    EXPECT_EQ(LookUpEntry("Download Files").php, PhpWriter::Plain);
+    EXPECT_EQ(LookUpEntry("Download Files With Password").php, PhpWriter::Plain);
+    EXPECT_EQ(LookUpEntry("Condition With Comment").php, PhpWriter::Paired);
+    EXPECT_EQ(LookUpEntry("Followup Files With Password").writer, EntryWriter::Text);
+    EXPECT_EQ(LookUpEntry("Followup Files With Password").php, PhpWriter::Paired);
+    EXPECT_EQ(LookUpEntry("Followup With Comment").writer, EntryWriter::Comments);
+    EXPECT_EQ(LookUpEntry("Followup With Comment").php, PhpWriter::Plain);
+    EXPECT_EQ(LookUpEntry("Followup With Dropdown").writer, EntryWriter::Dropdown);
+    EXPECT_EQ(LookUpEntry("Cancel Button").php, PhpWriter::Plain);
+    for (const char* t : {"Title Shade", "Blank Line", "Video", "Picture", "Setup"})
+        EXPECT_EQ(LookUpEntry(t).php, PhpWriter::None) << t;
+}
+
+TEST(DispatchTable, ConditionFieldIsSetByChoicesAndConditionsButNotTablesNorSurveyConditionChoices)
+{
+    using tq::html::SetsConditionField;
+    EXPECT_TRUE(SetsConditionField(LookUpEntry("Question YesNo Required").writer, true));
+    EXPECT_TRUE(SetsConditionField(LookUpEntry("Download Files").writer, false));
+    EXPECT_TRUE(SetsConditionField(LookUpEntry("Condition With Dropdown").writer, true));
+    EXPECT_TRUE(SetsConditionField(LookUpEntry("Condition With Multiple Choices").writer, false));
+    EXPECT_FALSE(SetsConditionField(LookUpEntry("Condition With Multiple Choices").writer, true));
+    EXPECT_FALSE(SetsConditionField(LookUpEntry("Table Text Required").writer, false));
+    EXPECT_FALSE(SetsConditionField(LookUpEntry("Table Choices Required").writer, true));
+    EXPECT_FALSE(SetsConditionField(LookUpEntry("Name").writer, false));
+}
+
+TEST_P(BothModes, HorizontalLineRunsWidthIntoNoshade)
+{
+    auto s = MakeSession(GetParam());
+    auto& v = s->build.values;
+    v.LineSize = "2";
+    v.LineAlign = "center";
+    v.LineWidth = "50%";
+    v.LineColor = "255";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteHorizontalLine(*s); }), Golden("horizontal_line.htm"));
+}
+
+TEST_P(BothModes, TitleShadeWritesEachTitleLineAndBreaksUnlessCentred)
+{
+    auto s = MakeSession(GetParam());
+    auto& v = s->build.values;
+    v.Title = "Our Services\\nand Prices";
+    v.TitleShadeWidth = "100%";
+    v.ALIGN = "left";
+    v.TextColorHex = "000000";
+    v.TitleSize = "4";
+    v.Italics = "on";
+    v.Bold = "off";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteTitleShade(*s); }), Golden("title_shade_left.htm"));
+
+    v.Title = "Welcome";
+    v.TitleShadeWidth = "60%";
+    v.ALIGN = "CENTER";
+    v.TextColorHex = "0000FF";
+    v.TitleSize = "5";
+    v.Italics = "OFF";
+    v.Bold = "On";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteTitleShade(*s); }), Golden("title_shade_center.htm"));
+}
+
+TEST_P(BothModes, BlankLineWritesOneBreakPerCount)
+{
+    auto s = MakeSession(GetParam());
+    s->build.values.NewLine = "3";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), Golden("blank_line_3.htm"));
+    s->build.values.NewLine = "0";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), "");
+}
+
+TEST_P(BothModes, AnUnknownVideoSuffixIsToldAndWritesNothingWhileNoneIsSilent)
+{
+    auto s = MakeSession(GetParam());
+    ScriptedPort port;
+    SetVideo(s->build.values, "https://www.tarnquill.example/clip.mov");
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), "");
+    ASSERT_EQ(port.shown.size(), 1u);
+    EXPECT_EQ(port.last().text, "https://www.tarnquill.example/clip.mov format is not supported");
+    EXPECT_EQ(port.last().title, "ERROR");
+    EXPECT_EQ(port.last().icon, tq::Icon::Critical);
+    EXPECT_EQ(s->build.buildError, 0);
+
+    port.clear();
+    SetVideo(s->build.values, "none");
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), "");
+    EXPECT_TRUE(port.shown.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, BothModes, ::testing::Values("FORM", "SURVEY"));
+
+TEST(VideoWriter, FormWritesTheVideoOnceWithoutWrapper)
+{
+    auto s = MakeSession("FORM");
+    ScriptedPort port;
+    auto& v = s->build.values;
+    SetVideo(v, "https://www.tarnquill.example/test/videos/clip.wmv");
+    v.VideoAlign = "center";
+    v.Autostart = "ON";
+    v.Loop = "1";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), Golden("video_form_wmv.htm"));
+}
+
+TEST(VideoWriter, SurveySuffixTestsAreIndependentAndAnMp4LeavesTheWrapperOpen)
+{
+    auto s = MakeSession("SURVEY");
+    ScriptedPort port;
+    const struct
+    {
+        const char* path;
+        const char* golden;
+    } cases[] = {
+        {"clip.avi", "video_survey_avi.htm"},
+        {"clip.mp4", "video_survey_mp4.htm"},
+        {"clip.mp4.avi", "video_survey_mp4_avi.htm"},
+        {"clip.wmv.mp4", "video_survey_wmv_mp4.htm"},
+    };
+    for (const auto& c : cases) {
+        SetVideo(s->build.values, c.path);
+        EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), Golden(c.golden)) << c.path;
+    }
+    EXPECT_TRUE(port.shown.empty());
+}
+
+TEST(PictureWriter, FormBreaksDependOnTheLastSlotOfThePreviousPhpPass)
+{
+    auto s = MakeSession("FORM");
+    SetPicture(s->build.values);
+    s->build.lastPhpSlot = 0; // the first build of a run
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_form_first_build.htm"));
+    s->build.lastPhpSlot = 5;
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_form_first_build.htm"));
+    s->build.lastPhpSlot = 3;
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_survey.htm"));
+}
+
+TEST(PictureWriter, SurveyHasNoBreaksAndNoneWritesNothing)
+{
+    auto s = MakeSession("SURVEY");
+    SetPicture(s->build.values);
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_survey.htm"));
+    s->build.values.ServerPath = "NONE";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), "");
+}
+
+TEST(BlankLineWriter, ACountPastTheFormatsCounterIsAnInternalError)
+{
+    auto s = MakeSession("FORM");
+    s->build.values.NewLine = "40000";
+    EXPECT_THROW(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), tq::model::InternalError);
+    s->build.values.NewLine = "-2";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), "");
+}
