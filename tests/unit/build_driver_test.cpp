@@ -59,26 +59,6 @@ struct Project
         auto& setupRow = s->store.pages[0][0];
         setupRow.InputTypeName = "Setup";
         setupRow.AttributeText = SetupText(web.path(), output);
-        PresetSetupValues(output);
-    }
-
-    // The values the build reads from SetupText, set beforehand as well so
-    // that the driver's own steps are tested apart from that read.
-    void PresetSetupValues(const std::string& output)
-    {
-        auto& v = s->build.setupValues;
-        v.WebFolder = web.path();
-        v.OutputName = output;
-        v.GlobalAlign = "NONE";
-        v.GlobalTextColor = "NONE";
-        v.SubmitName = "Submit Form";
-        v.SubmitAlign = "LEFT";
-        v.SubmitButtonColor = "0";
-        v.SubmitButtonColorHex = "000000";
-        v.BackgroundImagePath = ";https://www.tarnquill.example/test/cloudark.gif";
-        v.IncludeFrame = "NO";
-        v.FrameOff = 1;
-        v.TotalFrames = 1;
     }
 
     std::string html() const { return web.file("formtql.htm"); }

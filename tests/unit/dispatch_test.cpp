@@ -116,7 +116,7 @@ TEST_P(BothModes, HorizontalLineRunsWidthIntoNoshade)
     v.LineSize = "2";
     v.LineAlign = "center";
     v.LineWidth = "50%";
-    v.LineColor = "255";
+    v.LineColorHex = "FF0000";
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteHorizontalLine(*s); }), Golden("horizontal_line.htm"));
 }
 

@@ -2,6 +2,8 @@
 #include "build/build_driver.h"
 
 #include "build/php_pass.h"
+#include "build/setup_checks.h"
+#include "build/validation.h"
 #include "html/dispatch.h"
 #include "html/headings.h"
 #include "html/page_shell.h"
@@ -57,16 +59,6 @@ void Leave(Session& s, UiPort& ui)
 // The silent reorder of the Pages by their reference numbers; its faults set
 // buildError. The flat list is gathered again afterwards.
 void ReorderForBuild(Session&, UiPort&) {}
-
-// Normalises the SetupEntry's text and reads it into setupValues with its
-// checks (setupHold, buildError).
-void ReadSetupForBuild(Session&, UiPort&, const std::string&, const std::string&) {}
-
-// Takes the user back to the faulty Entry of `slot`.
-void ReportFaultAt(Session&, UiPort&, int) {}
-
-// The fatal report of an Input Type outside the catalogue at `slot`.
-void ReportUnknownAt(Session&, UiPort&, int) {}
 
 // The publishing instructions of a finished build.
 void ShowInstructions(Session&, UiPort& ui)
@@ -155,13 +147,13 @@ void DispatchList(Session& s, UiPort& ui, int pass)
             b.lastPhpSlot = i;
         html::DispatchEntry(s, ui, pass, html::FieldName(inputType, i), inputType, text);
         if (b.buildError == 1) {
-            ReportFaultAt(s, ui, i);
+            ReportBuildFault(s, ui, i);
             return;
         }
         if (b.buildError == 5) {
             b.buildError = 1;
             b.channels.closeAll();
-            ReportUnknownAt(s, ui, i);
+            ReportUnknownType(s, ui, i, inputType);
             return;
         }
     }
@@ -235,7 +227,10 @@ void CreateHTMHeader(Session& s, UiPort& ui, int& abort)
 {
     auto& b = s.build;
     const auto& setupRow = s.store.pages[0][0];
-    ReadSetupForBuild(s, ui, setupRow.InputTypeName, setupRow.AttributeText);
+    // the first row is taken as the SetupEntry, whatever its type
+    std::string setupText = setupRow.AttributeText;
+    FixLineBreaks(setupText);
+    ExtractSetupEntry(s, ui, setupText);
     if (b.buildError == 1 || b.setupHold)
         return;
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "html/dispatch.h"
 
-#include "html/globals.h"
+#include "build/extraction.h"
 #include "html/html_text.h"
 #include "html/titles_lines.h"
-#include "model/attribute_text.h"
 
 #include <utility>
 
@@ -66,10 +65,6 @@ constexpr TableRow kTable[] = {
     {"COMMENTS WITH TEXT", EntryWriter::Comments, PhpWriter::Plain},
     {"FOLLOWUP WITH COMMENT", EntryWriter::Comments, PhpWriter::Plain},
 };
-
-// The extraction of the Entry's attributes into the working values; its
-// faults set buildError 1, an Input Type that fits no row sets 5.
-void ExtractForDispatch(Session&, UiPort&, const std::string&, std::string&) {}
 
 // The question writers of both modes, by the writer of the table.
 void WriteQuestion(Session&, UiPort&, EntryWriter, const std::string&, const std::string&) {}
@@ -133,18 +128,14 @@ void DispatchEntry(Session& s,
     if (row.writer == EntryWriter::HorizontalLine) {
         if (pass != 1)
             return;
-        int err = 0;
-        model::TakeLineGroup(ui, text, v.LineWidth, v.LineSize, v.LineAlign, v.LineColor, err);
-        if (err != 0) {
-            b.buildError = 1;
+        build::ExtractHorizontalLine(s, ui, text);
+        if (b.buildError == 1)
             return;
-        }
-        ApplyGlobals(s);
         WriteHorizontalLine(s);
         return;
     }
 
-    ExtractForDispatch(s, ui, inputType, text);
+    build::ExtractEntry(s, ui, inputType, text);
     if (b.buildError == 1)
         return;
 

@@ -64,7 +64,7 @@ void WriteHorizontalLine(Session& s)
     // no blank between the width's closing quote and "noshade"
     out.piece(" Width = " + Quoted(v.LineWidth));
     out.piece("noshade Color = \"");
-    out.line(model::ColorToHex(v.LineColor) + "\" > ");
+    out.line(v.LineColorHex + "\" > ");
     out.line("<br>");
     out.line("");
 }
