@@ -23,9 +23,12 @@ namespace {
 
 // A SetupEntry whose values all build: the FORM template's keys in order,
 // each closed by its help item.
-std::string SetupText(const std::string& folder, const std::string& output)
+std::string SetupText(const std::string& folder,
+                      const std::string& output,
+                      const std::string& frame = "NO",
+                      const std::string& lead = "")
 {
-    return "[Drive Folder Path=" + folder + "] [Info: folder]\r\n" + "[TQL Output File=" + output +
+    return lead + "[Drive Folder Path=" + folder + "] [Info: folder]\r\n" + "[TQL Output File=" + output +
            "] [Info: file]\r\n"
            "[FROM=My Web Page] [Info: from]\r\n"
            "[Completed=thankyou.htm] [Info: page]\r\n"
@@ -40,7 +43,9 @@ std::string SetupText(const std::string& folder, const std::string& output)
            "[Email #3=none] [Info: mail]\r\n"
            "[Number Each Question=YES] [Info: numbers]\r\n"
            "[Show Tool Tips=YES] [Info: tips]\r\n"
-           "[Include Frame With Form=NO] [Info: frame]\r\n"
+           "[Include Frame With Form=" +
+           frame +
+           "] [Info: frame]\r\n"
            "[Frame Border Color=52736] [Info: colour]\r\n"
            "[Frame Color=16384] [Info: colour]\r\n"
            "[Total Frames=1] [Info: frames]\r\n";
@@ -59,6 +64,11 @@ struct Project
         auto& setupRow = s->store.pages[0][0];
         setupRow.InputTypeName = "Setup";
         setupRow.AttributeText = SetupText(web.path(), output);
+    }
+
+    void add(int row, const std::string& type, const std::string& text)
+    {
+        s->store.pages[0][static_cast<size_t>(row)] = {type, text, "", false, tq::model::Highlight::None};
     }
 
     std::string html() const { return web.file("formtql.htm"); }
@@ -297,4 +307,122 @@ TEST(BuildDriver, ARealBuildClearsThePreviewFlags)
     EXPECT_FALSE(p.s->build.entryPreview);
     EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
     EXPECT_FALSE(std::filesystem::exists(p.data.file("Preview.htm")));
+}
+
+namespace {
+
+std::string Golden(const std::string& name)
+{
+    return ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/html/builds/" + name);
+}
+
+const std::string kTitleShade = "[Title=Our Services\\nand Prices] [Info: t]\r\n[Title Size=4] [Info: s]\r\n"
+                                "[Title Shade Width=100%] [Info: w]\r\n[Height=34] [Info: h]\r\n"
+                                "[Align=left] [Choices=l]\r\n[Italics=on] [Info: i]\r\n[Bold=off] [Info: b]\r\n"
+                                "[Text Color=0] [Info: c]\r\n";
+const std::string kLine = "[Line Width=50%] [Info: width]\r\n[Line Size=2] [Info: size]\r\n"
+                          "[Align=center] [Choices=left,right,center]\r\n[Line Color=255] [Choices=colour]\r\n";
+const std::string kBlank = "[New Line=3] [Info: n]\r\n";
+const std::string kPicture = "[Server Picture Path=https://www.tarnquill.example/test/cloudark.gif] [Info: p]\r\n"
+                             "[Align=center] [Choices=l]\r\n[Picture Width=200] [Info: w]\r\n"
+                             "[Picture Height=100] [Info: h]\r\n";
+
+std::string
+Video(const std::string& path, const std::string& align, const std::string& autostart, const std::string& loop)
+{
+    return "[Server Video Path=" + path + "] [Info: path]\r\n[Align=" + align +
+           "] [Choices=l]\r\n[Video Width=320] [Info: w]\r\n[Video Height=240] [Info: h]\r\n[Autostart=" + autostart +
+           "] [Choices=on,off]\r\n[loop=" + loop + "] [Choices=1 to 9]\r\n";
+}
+
+} // namespace
+
+TEST(WholeBuild, FormWithTitlesLinesPicturesAndVideosInAFrame)
+{
+    Project p;
+    p.s->store.pages[0][0].AttributeText = SetupText(p.web.path(), "formtql.htm", "YES");
+    p.add(1, "Title Shade", kTitleShade);
+    p.add(2, "Horizontal Line", kLine);
+    p.add(3, "Blank Line", kBlank);
+    p.add(4, "Picture", kPicture);
+    p.add(5, "Video", Video("https://www.tarnquill.example/test/videos/clip.wmv", "center", "ON", "1"));
+    ScriptedPort port;
+    tq::build::CreateFormHTMLCode(*p.s, port);
+    EXPECT_EQ(p.s->build.buildError, 0);
+    EXPECT_TRUE(port.shown.empty());
+    EXPECT_EQ(ReadFileBytes(p.html()), Golden("form_whole_non_questions.htm"));
+    EXPECT_EQ(p.s->build.lastPhpSlot, 11);
+}
+
+TEST(WholeBuild, SurveyPutsVideosAndPicturesInTheWrapperTable)
+{
+    Project p("surveytql.htm");
+    p.s->store.state.ProjectMode = "SURVEY";
+    p.s->store.pages[0][0].AttributeText =
+        SetupText(p.web.path(), "surveytql.htm", "YES", "[Background Color=9022343] [Info: c]\r\n");
+    p.add(1, "Title Shade", kTitleShade);
+    p.add(2, "Video", Video("clip.avi", "right", "off", "infinite"));
+    p.add(3, "Picture", kPicture);
+    p.add(4, "Blank Line", kBlank);
+    ScriptedPort port;
+    tq::build::CreateFormHTMLCode(*p.s, port);
+    EXPECT_EQ(p.s->build.buildError, 0);
+    EXPECT_EQ(ReadFileBytes(p.web.file("surveytql.htm")), Golden("survey_whole_non_questions.htm"));
+}
+
+TEST(WholeBuild, APictureAfterABuildWhosePhpPassEndedInSlotThreeHasNoBreaks)
+{
+    Project p;
+    p.add(1, "Picture", kPicture);
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_NE(ReadFileBytes(p.html()).find("<br><br>\r\n<div align=\"center\">"), std::string::npos);
+    EXPECT_EQ(p.s->build.lastPhpSlot, 3);
+    port.answer(Answer::No);
+    port.answer(Answer::Yes);
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(ReadFileBytes(p.html()).find("<br><br>"), std::string::npos);
+}
+
+TEST(WholeBuild, AFaultyEntryStopsBeforeThePageCloseAndTakesTheUserToIt)
+{
+    Project p;
+    p.add(1, "Blank Line", kBlank);
+    p.add(2, "Picture", "[Server Picture Path=a\\b.gif] [Info: p]\r\n");
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(p.s->build.buildError, 1);
+    EXPECT_EQ(port.last().title, "ERROR");
+    ASSERT_FALSE(port.editCalls.empty());
+    EXPECT_EQ(port.editCalls.back().row, 2);
+    const std::string page = ReadFileBytes(p.html());
+    EXPECT_NE(page.find("<br>\r\n<br>\r\n<br>\r\n"), std::string::npos);
+    EXPECT_EQ(page.find("</form>"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(p.php()));
+}
+
+TEST(WholeBuild, AnUnknownTypeGetsItsReport)
+{
+    Project p;
+    p.add(1, "Fancy Widget", "[Title=x] [Info: t]\r\n");
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(p.s->build.buildError, 1);
+    ASSERT_FALSE(port.messages().empty());
+    EXPECT_EQ(port.messages().back().text,
+              "FANCY WIDGET is not a valid input type.\r\rPlease remove the FANCY WIDGET from the list");
+}
+
+TEST(WholeBuild, ABoundFaultIsCaughtAndToldAsAnInternalError)
+{
+    Project p;
+    p.add(1, "Blank Line", "[New Line=40000] [Info: n]\r\n");
+    ScriptedPort port;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_EQ(p.s->build.buildError, 1);
+    EXPECT_EQ(port.last().title, "INTERNAL ERROR");
+    EXPECT_EQ(port.last().icon, Icon::Critical);
+    EXPECT_FALSE(p.s->build.inProgress);
+    EXPECT_EQ(port.busyCalls.back(), false);
+    EXPECT_FALSE(std::filesystem::exists(p.php()));
 }

@@ -234,3 +234,95 @@ TEST(BlankLineWriter, ACountPastTheFormatsCounterIsAnInternalError)
     s->build.values.NewLine = "-2";
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), "");
 }
+
+// Through the dispatcher: the attributes are read from the Entry's text first.
+namespace {
+
+const std::string kLineText = "[Line Width=50%] [Info: width]\r\n[Line Size=2] [Info: size]\r\n"
+                              "[Align=center] [Choices=left,right,center]\r\n[Line Color=255] [Choices=colour]\r\n";
+
+const std::string kVideoText = "[Server Video Path=clip.avi] [Info: path]\r\n[Align=right] [Choices=left]\r\n"
+                               "[Video Width=320] [Info: w]\r\n[Video Height=240] [Info: h]\r\n"
+                               "[Autostart=off] [Choices=on,off]\r\n[loop=infinite] [Choices=1 to 9]\r\n";
+
+// A session whose SetupEntry was read: no global overrides.
+std::unique_ptr<tq::Session> ReadySession(const std::string& mode)
+{
+    auto s = MakeSession(mode);
+    s->build.setupValues.GlobalAlign = "NONE";
+    s->build.setupValues.GlobalTextColor = "NONE";
+    return s;
+}
+
+} // namespace
+
+TEST(DispatchEntry, HorizontalLineIsReadAndWrittenInTheHtmlPassOnly)
+{
+    auto s = ReadySession("FORM");
+    ScriptedPort port;
+    auto run = [&](int pass) {
+        return Capture(*s, [&] { tq::html::DispatchEntry(*s, port, pass, "horiz3", "Horizontal Line", kLineText); });
+    };
+    EXPECT_EQ(run(1), Golden("horizontal_line.htm"));
+    EXPECT_EQ(run(2), "");
+    EXPECT_TRUE(port.shown.empty());
+}
+
+TEST(DispatchEntry, AGlobalAlignmentReachesTheLine)
+{
+    auto s = ReadySession("FORM");
+    s->build.setupValues.GlobalAlign = "right";
+    ScriptedPort port;
+    const std::string out =
+        Capture(*s, [&] { tq::html::DispatchEntry(*s, port, 1, "horiz3", "horizontal line", kLineText); });
+    EXPECT_NE(out.find(" align = \"right\" Width = \"50%\""), std::string::npos);
+}
+
+TEST(DispatchEntry, AVideosAlignFillsOnlyTheVideoAlignmentAndTheWrapperKeepsTheSharedOne)
+{
+    auto s = ReadySession("SURVEY");
+    s->build.values.ALIGN = "left"; // left behind by the Entry before
+    ScriptedPort port;
+    EXPECT_EQ(Capture(*s, [&] { tq::html::DispatchEntry(*s, port, 1, "video5", "Video", kVideoText); }),
+              Golden("video_survey_avi.htm"));
+}
+
+TEST(DispatchEntry, AnUnknownTypeIsLeftForTheReportWithoutAWord)
+{
+    auto s = ReadySession("FORM");
+    ScriptedPort port;
+    EXPECT_EQ(Capture(*s, [&] { tq::html::DispatchEntry(*s, port, 1, "fancy5", "Fancy Widget", "[Title=x]"); }), "");
+    EXPECT_EQ(s->build.buildError, 5);
+    EXPECT_TRUE(port.shown.empty());
+}
+
+TEST(DispatchEntry, AFaultOfTheExtractionWritesNothing)
+{
+    auto s = ReadySession("FORM");
+    ScriptedPort port;
+    const std::string text = "[Server Picture Path=c:\\pics\\a.gif] [Info: p]\r\n[Align=left] [Choices=l]\r\n"
+                             "[Picture Width=20] [Info: w]\r\n[Picture Height=10] [Info: h]\r\n";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::DispatchEntry(*s, port, 1, "pictu3", "Picture", text); }), "");
+    EXPECT_EQ(s->build.buildError, 1);
+    ASSERT_FALSE(port.shown.empty());
+    EXPECT_EQ(port.last().title, "ERROR");
+}
+
+TEST(DispatchEntry, EntryValuesAreClearedBeforeEachEntry)
+{
+    tq::build::WorkingValues v;
+    v.Title = "t";
+    v.DefaultValue = "d";
+    v.REQ = "yes";
+    v.Choices.push("a");
+    v.ALIGN = "center";
+    v.ButtonName = "Cancel";
+    tq::html::ClearEntryValues(v);
+    EXPECT_TRUE(v.Title.empty());
+    EXPECT_TRUE(v.DefaultValue.empty());
+    EXPECT_TRUE(v.REQ.empty());
+    EXPECT_EQ(v.Choices.count(), 0);
+    // what the page close reads stays from Entry to Entry
+    EXPECT_EQ(v.ALIGN, "center");
+    EXPECT_EQ(v.ButtonName, "Cancel");
+}

@@ -97,6 +97,7 @@ void ClearEntryValues(build::WorkingValues& v)
 {
     v.DefaultValue.clear();
     v.VisibleDownload.clear();
+    v.VisibleDownloadPassword.clear();
     v.Title.clear();
     v.PASSWORD.clear();
     v.Width.clear();
