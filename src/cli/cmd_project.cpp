@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/build_driver.h"
+#include "cmd_serve.h"
 #include "commands.h"
 #include "console_port.h"
 #include "port/platform.h"
@@ -61,22 +62,6 @@ std::optional<std::string> DefaultDataFolder()
     if (lines.empty() || lines[0].empty())
         return std::nullopt;
     return lines[0];
-}
-
-// Puts `folder` in place of the [DRIVE FOLDER PATH= value of a SetupEntry's
-// text; false when the text has no such key.
-bool ReplaceDriveFolderPath(std::string& text, const std::string& folder)
-{
-    static constexpr std::string_view kKey = "[DRIVE FOLDER PATH=";
-    const size_t pos = store::Upper(text).find(kKey);
-    if (pos == std::string::npos)
-        return false;
-    const size_t start = pos + kKey.size();
-    size_t end = text.find_first_of("]\r\n", start);
-    if (end == std::string::npos)
-        end = text.size();
-    text.replace(start, end - start, folder);
-    return true;
 }
 
 std::optional<BuildOptions> ParseBuild(const std::vector<std::string>& args, std::ostream& err)
@@ -161,9 +146,14 @@ int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostre
     store::ReadEntries(s->store, reader);
     s->store.state.CurrentFileName = o.file;
 
-    if (o.webFolder && !ReplaceDriveFolderPath(s->store.pages[0][0].AttributeText, *o.webFolder)) {
-        err << "tarnquill-cli: the SetupEntry of " << o.file << " has no [DRIVE FOLDER PATH= to replace\n";
-        return 1;
+    if (o.webFolder) {
+        auto& setupText = s->store.pages[0][0].AttributeText;
+        bool found = false;
+        setupText = PointProjectAt(setupText, *o.webFolder, found);
+        if (!found) {
+            err << "tarnquill-cli: the SetupEntry of " << o.file << " has no [DRIVE FOLDER PATH= to replace\n";
+            return 1;
+        }
     }
 
     ConsolePort port(err);
