@@ -15,5 +15,6 @@ done
 if [ ! -d "$here/node_modules/playwright-core" ]; then
     (cd "$here" && PLAYWRIGHT_SKIP_BROWSER_DOWNLOAD=1 npm ci --no-audit --no-fund --silent)
 fi
+"$here/show/run.sh" "$build"
 cd "$here"
 exec node e2e.mjs "$build"

@@ -320,7 +320,7 @@ TEST(ShowLines, FadeModeByExactTextAndTheFirstMarkDecides)
 
 namespace {
 
-struct BuildFixture : ::testing::Test
+struct ShowBuild : ::testing::Test
 {
     TempDir dir;
     TempDir data;
@@ -339,7 +339,7 @@ struct BuildFixture : ::testing::Test
 
 } // namespace
 
-TEST_F(BuildFixture, ReadmeIsWrittenLineForLine)
+TEST_F(ShowBuild, ReadmeIsWrittenLineForLine)
 {
     port.file(templatePath);
     ASSERT_TRUE(BuildShow(session, TQ_DATA_DIR, port));
@@ -370,7 +370,7 @@ TEST_F(BuildFixture, ReadmeIsWrittenLineForLine)
             "on the internet\r\n");
 }
 
-TEST_F(BuildFixture, ShowFromTheInstalledTemplateWithDoneOutputLineAndHistory)
+TEST_F(ShowBuild, ShowFromTheInstalledTemplateWithDoneOutputLineAndHistory)
 {
     port.file(templatePath);
     ASSERT_TRUE(BuildShow(session, TQ_DATA_DIR, port));
@@ -421,7 +421,7 @@ TEST_F(BuildFixture, ShowFromTheInstalledTemplateWithDoneOutputLineAndHistory)
     EXPECT_EQ(out.find("tarnquill.example"), std::string::npos);
 }
 
-TEST_F(BuildFixture, StopsOnAFailedCheckOnCancelAndOnAnUnreadableTemplate)
+TEST_F(ShowBuild, StopsOnAFailedCheckOnCancelAndOnAnUnreadableTemplate)
 {
     session.photoShow.OutputLine = "old";
     session.photoShow.settings.FadeSteps = "1";
@@ -451,7 +451,7 @@ TEST_F(BuildFixture, StopsOnAFailedCheckOnCancelAndOnAnUnreadableTemplate)
     EXPECT_FALSE(std::filesystem::exists(data.file("history.txt")));
 }
 
-TEST_F(BuildFixture, TemplateLinesWithoutMarksAreCopiedAndLoneLineFeedsBecomeCrLf)
+TEST_F(ShowBuild, TemplateLinesWithoutMarksAreCopiedAndLoneLineFeedsBecomeCrLf)
 {
     const std::string tpl = dir.file("t/photodata.php");
     WriteFileBytes(tpl, "<?PHP\nkeep me\r\n$fadeMode  =rand(0,4);\nlast");
