@@ -2,6 +2,7 @@
 #include "scripted_port.h"
 #include "session.h"
 #include "show/show_build.h"
+#include "show/show_commands.h"
 #include "show/show_file.h"
 
 #include <filesystem>
@@ -460,4 +461,27 @@ TEST_F(ShowBuild, TemplateLinesWithoutMarksAreCopiedAndLoneLineFeedsBecomeCrLf)
     port.file(tpl);
     ASSERT_TRUE(BuildShow(session, "", port));
     EXPECT_EQ(ReadFileBytes(dir.file("photoshow.php")), "<?PHP\r\n$bgcolor=\"#000000\";\r\nkeep me\r\nlast\r\n");
+}
+
+// ---------------------------------------------------------------- page commands
+
+TEST(ShowCommands, HelpInstructionsAndTheLiveShow)
+{
+    ScriptedPort port;
+    ShowHelp(port);
+    EXPECT_EQ(port.last().title, "HELP");
+    const std::string tail =
+        " You can then select File and Recent and open up any of the files that you've saved in your history";
+    EXPECT_EQ(port.last().text.substr(port.last().text.size() - tail.size()), tail);
+
+    ShowPage page;
+    page.settings.ImageFolder = "/srv/pics/";
+    page.OutputLine = "https://club.example/photos/photoshow.php";
+    EXPECT_TRUE(ViewInstructions(page.settings, port));
+    EXPECT_TRUE(OpenLocalShow(page.settings, port));
+    EXPECT_EQ(port.opened, (std::vector<std::string>{"/srv/pics/readmeshow.txt", "/srv/pics/photoshow.php"}));
+    EXPECT_TRUE(ViewShowLive("/usr/bin/xdg-open", page, port));
+    ASSERT_EQ(port.started.size(), 1u);
+    EXPECT_EQ(port.started[0].program, "/usr/bin/xdg-open");
+    EXPECT_EQ(port.started[0].args, std::vector<std::string>{page.OutputLine});
 }
