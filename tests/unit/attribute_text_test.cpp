@@ -78,10 +78,11 @@ TEST(TakeAttribute, EmptyValueInTheMiddleIsNotAValidEntry)
     EXPECT_EQ(r.value, "(unset)");
     EXPECT_EQ(r.text, "] [Info: x]"); // the key is already gone
     ASSERT_EQ(port.shown.size(), 1u);
-    ExpectMessage(port.shown[0],
-                  "[TITLE is not a valid entry.\r\rShould have a left bracket, followed by a = sign followed by a right "
-                  "bracket\r\rExample: [TITLE=This is a test]\r\r] ",
-                  "error", Icon::Critical);
+    ExpectMessage(
+        port.shown[0],
+        "[TITLE is not a valid entry.\r\rShould have a left bracket, followed by a = sign followed by a right "
+        "bracket\r\rExample: [TITLE=This is a test]\r\r] ",
+        "error", Icon::Critical);
 }
 
 TEST(TakeAttribute, MissingOpeningBracketIsToldAndTheReadGoesOn)

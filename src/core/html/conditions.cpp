@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "html/conditions.h"
+
+#include "html/choice_inputs.h"
+#include "html/headings.h"
+#include "html/html_text.h"
+#include "port/platform.h"
+#include "session.h"
+
+#include <fstream>
+#include <sstream>
+
+namespace tq::html {
+
+namespace {
+
+build::LineWriter& Out(Session& s)
+{
+    return s.build.channels[1];
+}
+
+void ReplaceAll(std::string& text, std::string_view from, std::string_view to)
+{
+    size_t at = 0;
+    while ((at = text.find(from, at)) != std::string::npos) {
+        text.replace(at, from.size(), to);
+        at += to.size();
+    }
+}
+
+// The text through the scratch file: written with its line end and read back whole.
+std::string ThroughScratchFile(const std::string& dataFolder, const std::string& text)
+{
+    const std::string path = platform::JoinPath(dataFolder, "\\junk.txt");
+    {
+        std::ofstream out(path, std::ios::binary | std::ios::trunc);
+        out << text << "\r\n";
+        if (!out)
+            return text + "\r\n";
+    }
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream whole;
+    whole << in.rdbuf();
+    return whole.str();
+}
+
+} // namespace
+
+void WriteConditionChoices(Session& s,
+                           std::string_view field,
+                           std::string title,
+                           std::string_view inputType,
+                           std::string_view /*defaultValue*/,
+                           std::string_view required)
+{
+    if (!title.empty()) {
+        std::string caption = title;
+        NumberForMessage(s.build, caption, inputType);
+        AppendMessageLine(s.build, caption);
+        AppendMessageLine(s.build, std::string(field));
+        NumberForPage(s.build, title, inputType);
+        WriteSurveyHeading(s, title, required, inputType);
+        WriteFollowupChoices(s, field, inputType);
+    }
+    WriteShadeClose(s);
+}
+
+void WriteConditionDropdown(Session& s,
+                            std::string_view field,
+                            std::string title,
+                            std::string_view inputType,
+                            std::string_view defaultValue,
+                            std::string_view required)
+{
+    auto& out = Out(s);
+    if (!title.empty()) {
+        RecordQuestion(s.build, field, title, inputType);
+        WriteSurveyHeading(s, title, required, inputType);
+        out.line(ChoiceFontLine(s));
+        out.line("<p align=" + Quoted(s.build.values.ALIGN) + ">");
+        for (const auto& choice : s.build.values.Choices.items) {
+            WriteIndent11(s);
+            out.piece(RadioTag(choice));
+            out.line(NamePart(field, choice, defaultValue) + "&nbsp;&nbsp;&nbsp;");
+            // the default closes style and font at once, and the list goes on: the format does so
+            if (IsDefaultChoice(defaultValue, choice)) {
+                WriteStyleClose(s);
+                out.line("</font>");
+            }
+        }
+        WriteStyleClose(s);
+        out.line("</font>");
+        if (BeginsWith(inputType, "CONDITION"))
+            WriteStyleClose(s);
+    }
+    WriteShadeClose(s);
+}
+
+void WriteFollowupChoices(Session& s, std::string_view field, std::string_view inputType)
+{
+    auto& out = Out(s);
+    WriteItalicOpen(s);
+    out.line(ChoiceFontLine(s));
+    WriteIndent11(s);
+    const auto& choices = s.build.values.Choices.items;
+    for (size_t i = 0; i < choices.size(); ++i) {
+        // no blank before "name=", and no choice is checked here
+        const std::string tag = "<input type=" + Quoted("radio") + " value=" + Quoted(choices[i]) +
+                                "name=" + Quoted(field) + ">" + choices[i];
+        if (i + 1 < choices.size()) {
+            out.piece(tag);
+            WriteIndent11(s); // its line end closes the choice's line
+        } else {
+            out.line(tag + "<br></font>");
+        }
+    }
+    WriteItalicClose(s);
+    out.line("</font>");
+    if (!IsSurvey(s)) {
+        const std::string t = UpperText(inputType);
+        if (BeginsWith(t, "QUESTION") || t == "FOLLOWUP WITH DROPDOWN" || t == "FOLLOWUP WITH MULTIPLE CHOICES")
+            out.line("<br>");
+    }
+}
+
+void WriteDownloadList(Session& s)
+{
+    auto& out = Out(s);
+    const auto& b = s.build;
+    const auto& v = b.values;
+    out.line("<p align=" + Quoted(v.ALIGN) + "><font face=" + Quoted(kFace) + "color=" + Quoted(v.TextColorHex) +
+             " size=" + Quoted("3") + ">");
+    WriteItalicOpen(s);
+    const bool labels = UpperText(v.ShowFileLabels) == "YES";
+    const bool left = UpperText(v.ALIGN) == "LEFT";
+    for (int i = 1; i <= b.downloadFileCount && i <= build::kDownloadFileSlots; ++i) {
+        if (UpperText(v.VisibleDownload) == "NO" || UpperText(v.VisibleDownloadPassword) == "NO")
+            break;
+        // a number's text keeps its leading blank: the label reads "File  1:"
+        const std::string number = " " + std::to_string(i);
+        if (b.downloadFileCount == 1)
+            out.line(Repeat("&nbsp;", 10));
+        else if (labels && left)
+            out.line(Repeat("&nbsp;", 10) + "File " + number + ":&nbsp;&nbsp;");
+        else if (labels)
+            out.line("File " + number + ":");
+        else if (left)
+            out.line(Repeat("&nbsp;", 12));
+        else
+            out.line("");
+        out.line(b.downloadFiles[static_cast<size_t>(i)] + " <br>");
+    }
+    WriteItalicClose(s);
+    out.line("</font>");
+    WriteShadeClose(s);
+}
+
+std::string TextToAttribute(const std::string& dataFolder, const std::string& text, bool keepBlanks)
+{
+    if (UpperText(text) == "NONE" || text.size() < 5)
+        return text;
+    std::string value = ThroughScratchFile(dataFolder, text);
+    ReplaceAll(value, "\r\n", "\\n");
+    ReplaceAll(value, "\n", "\\n"); // a line end typed on this platform may be a lone LF
+    while (value.size() >= 2 && value.compare(value.size() - 2, 2, "\\n") == 0)
+        value.erase(value.size() - 2);
+    if (!keepBlanks) {
+        ReplaceAll(value, "  ", "&nbsp;");
+        ReplaceAll(value, "\t", "&nbsp;&nbsp;&nbsp;");
+    }
+    return value;
+}
+
+std::string AttributeToText(const std::string& dataFolder, const std::string& text)
+{
+    if (UpperText(text) == "NONE")
+        return text;
+    std::string value = ThroughScratchFile(dataFolder, text);
+    if (value.size() >= 2 && value.compare(value.size() - 2, 2, "\r\n") == 0)
+        value.erase(value.size() - 2); // the line end the scratch file added
+    std::string out;
+    for (size_t i = 0; i < value.size();) {
+        if (value[i] == '\\' && i + 1 < value.size() && (value[i + 1] == 'n' || value[i + 1] == 'N')) {
+            out += "\r\n";
+            i += 2;
+        } else {
+            out += value[i++];
+        }
+    }
+    ReplaceAll(out, "&nbsp;", "  ");
+    return out;
+}
+
+} // namespace tq::html
