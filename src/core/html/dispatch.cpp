@@ -2,7 +2,12 @@
 #include "html/dispatch.h"
 
 #include "build/extraction.h"
+#include "html/choice_inputs.h"
+#include "html/conditions.h"
+#include "html/headings.h"
 #include "html/html_text.h"
+#include "html/tables.h"
+#include "html/text_inputs.h"
 #include "html/titles_lines.h"
 
 #include <utility>
@@ -67,7 +72,68 @@ constexpr TableRow kTable[] = {
 };
 
 // The question writers of both modes, by the writer of the table.
-void WriteQuestion(Session&, UiPort&, EntryWriter, const std::string&, const std::string&) {}
+void WriteQuestion(Session& s, UiPort& ui, EntryWriter writer, const std::string& field, const std::string& t)
+{
+    const auto& v = s.build.values;
+    const bool survey = IsSurvey(s);
+    switch (writer) {
+    case EntryWriter::Text:
+    case EntryWriter::Cancel:
+        if (survey)
+            WriteSurveyText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
+        else
+            WriteFormText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
+        return;
+    case EntryWriter::Choices:
+        if (survey)
+            WriteSurveyChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        else
+            WriteFormChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        return;
+    case EntryWriter::ConditionDropdown:
+        if (survey)
+            WriteConditionDropdown(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        else
+            WriteFormChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        return;
+    case EntryWriter::ConditionChoices:
+        if (survey)
+            WriteConditionChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        else
+            WriteFormChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        return;
+    case EntryWriter::TableText:
+    case EntryWriter::TableChoices:
+        // in FORM a table is a radio question titled by its [COLCHOICE
+        if (!survey)
+            WriteFormChoices(s, field, v.ColChoice, t, v.DefaultValue, v.REQ);
+        else if (writer == EntryWriter::TableText)
+            WriteTableText(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        else
+            WriteTableChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        return;
+    case EntryWriter::Dropdown:
+        if (survey)
+            WriteSurveyDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
+        else
+            WriteFormDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
+        return;
+    case EntryWriter::Checkboxes:
+        if (survey)
+            WriteSurveyCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
+        else
+            WriteFormCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
+        return;
+    case EntryWriter::Comments:
+        if (survey)
+            WriteSurveyComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
+        else
+            WriteFormComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
+        return;
+    default:
+        return;
+    }
+}
 
 } // namespace
 

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "html/tables.h"
+#include "html_fixture.h"
+
+#include <gtest/gtest.h>
+
+using tq::test::Golden;
+using tq::test::HtmlFixture;
+namespace html = tq::html;
+
+namespace {
+
+void TableColours(HtmlFixture& f)
+{
+    auto& v = f.s.build.values;
+    v.TableTextColorHex = "0000FF";
+    v.ChoicesBackColorHex = "EEEEEE";
+    v.AnswerBackColorHex = "FFFFFF";
+    v.TextColorHex = "123456"; // the heading's colour never shows in a table
+}
+
+} // namespace
+
+TEST(Tables, TextTableShowsRequiredAndOnlyTheNumberOfANumberedCaption)
+{
+    HtmlFixture f("SURVEY");
+    TableColours(f);
+    auto& v = f.s.build.values;
+    v.ALIGN = "center";
+    v.TitleSize = "2";
+    v.TableBold = "ON";
+    v.TableItalics = "off";
+    v.ColChoice = "Service";
+    v.RowChoices.push("Good");
+    v.RowChoices.push("Bad");
+    f.s.build.setupValues.NumberEachQuestion = "YES";
+    html::WriteTableText(f.s, "table9", "ignored", "TABLE TEXT REQUIRED", "", "yes");
+    EXPECT_EQ(f.Output(), Golden("survey/table_text_required_numbered.htm"));
+    ASSERT_EQ(f.s.build.messageLineCount, 2);
+    EXPECT_EQ(f.s.build.messageLines[1], "1. Service");
+    EXPECT_EQ(f.s.build.messageLines[2], "table9");
+}
+
+TEST(Tables, ChoicesTableInAWholePageIsADocumentOfItsOwnWithTheStarInTheCaption)
+{
+    HtmlFixture f("SURVEY");
+    TableColours(f);
+    f.s.build.wholePage = true;
+    f.s.build.setupValues.BackgroundColorHex = "FFFFCC";
+    auto& v = f.s.build.values;
+    v.TableItalics = "on";
+    v.ColChoice = "Rate\\nus";
+    for (const char* c : {"1", "2", "3"})
+        v.RowChoices.push(c);
+    html::WriteTableChoices(f.s, "table9", "", "TABLE CHOICES REQUIRED", "", "YES");
+    EXPECT_EQ(f.Output(), Golden("survey/table_choices_required_whole_page.htm"));
+    EXPECT_EQ(f.s.build.messageLines[1], "1. Rate");
+}
+
+TEST(Tables, NoColumnsWritesNoHeaderOrAnswerCellAndTwoTablesOpenTwoDocuments)
+{
+    HtmlFixture f("SURVEY");
+    TableColours(f);
+    f.s.build.wholePage = true;
+    f.s.build.values.ColChoice = "Caption";
+    html::WriteTableText(f.s, "table3", "", "TABLE TEXT REQUIRED", "", "no");
+    f.s.build.values.ColChoice = "Second";
+    html::WriteTableChoices(f.s, "table5", "", "TABLE CHOICES REQUIRED", "", "no");
+    const std::string out = f.Output();
+    EXPECT_EQ(out.find("bgcolor=\"FFFFFF\""), std::string::npos);
+    EXPECT_EQ(out.find("<td align=\"center\" bgcolor"), std::string::npos);
+    size_t count = 0;
+    for (size_t at = out.find("<html>"); at != std::string::npos; at = out.find("<html>", at + 1))
+        ++count;
+    EXPECT_EQ(count, 2u);
+    EXPECT_NE(out.find("\r\nCaption\r\n"), std::string::npos);
+    EXPECT_NE(out.find(" <p align=\"center\"><font face=\"arial\"></font></td>\r\n"), std::string::npos);
+    EXPECT_EQ(f.s.build.messageLineCount, 4);
+}
