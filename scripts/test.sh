@@ -9,12 +9,17 @@ scripts/install-deps.sh --test
 JOBS="$(nproc)"
 
 echo "== build and unit tests"
-TQ_BUILD_DIR=build scripts/build.sh -DBUILD_TESTING=ON -DTQ_WERROR=ON
+TQ_BUILD_DIR=build scripts/build.sh -DBUILD_TESTING=ON -DTQ_WERROR=ON -DTQ_BENCH=ON
 if command -v xvfb-run >/dev/null; then
     xvfb-run -a -s "-screen 0 1920x1080x24" ctest --test-dir build --output-on-failure -j "$JOBS"
 else
     ctest --test-dir build --output-on-failure -j "$JOBS"
 fi
+
+echo "== benchmarks (a short run each; figures in the README)"
+for b in build/bin/*_bench; do
+    [ -x "$b" ] && "$b" --benchmark_min_time=0.05 2>&1 | grep -E "^BM_" | head -20
+done
 
 echo "== sanitizer build (ASan + UBSan) of the core and its tests"
 TQ_BUILD_DIR=build-asan scripts/build.sh -DBUILD_TESTING=ON -DTQ_BUILD_GUI=OFF -DTQ_SANITIZE=ON -DCMAKE_BUILD_TYPE=Debug
