@@ -18,7 +18,9 @@ fi
 
 echo "== benchmarks (a short run each; figures in the README)"
 for b in build/bin/*_bench; do
-    [ -x "$b" ] && "$b" --benchmark_min_time=0.05 2>&1 | grep -E "^BM_" | head -20
+    if [ -x "$b" ]; then
+        "$b" --benchmark_min_time=0.05 2>&1 | grep -E "^BM_" | head -20
+    fi
 done
 
 echo "== sanitizer build (ASan + UBSan) of the core and its tests"
