@@ -5,10 +5,14 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QProcess>
+#include <QTimer>
 #include <QUrl>
 
 namespace tq::gui {
@@ -172,6 +176,26 @@ void QtPort::entriesChanged()
 {
     if (onEntriesChanged)
         onEntriesChanged();
+}
+
+std::optional<std::string> QtPort::httpGet(std::string_view url, int timeoutMs)
+{
+    QNetworkAccessManager manager;
+    QNetworkRequest request(QUrl(ToQ(url)));
+    request.setTransferTimeout(timeoutMs);
+    QNetworkReply* reply = manager.get(request);
+    QEventLoop loop;
+    QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(timeoutMs + 1000, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    std::optional<std::string> out;
+    if (reply->isFinished() && reply->error() == QNetworkReply::NoError) {
+        QByteArray body = reply->readAll();
+        out = std::string(body.constData(), static_cast<size_t>(body.size()));
+    }
+    reply->abort();
+    reply->deleteLater();
+    return out;
 }
 
 bool QtPort::startProgram(std::string_view program,

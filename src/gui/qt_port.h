@@ -31,6 +31,7 @@ class QtPort : public UiPort
     void openEditPage(int page, int row, std::string_view selectKey) override;
     void selectRow(int page, int row) override;
     void entriesChanged() override;
+    std::optional<std::string> httpGet(std::string_view url, int timeoutMs) override;
     bool startProgram(std::string_view program,
                       const std::vector<std::string>& args,
                       std::string_view workingFolder) override;

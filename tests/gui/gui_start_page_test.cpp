@@ -57,4 +57,4 @@ class StartPageTest : public QObject
 };
 
 QTEST_MAIN(StartPageTest)
-#include "start_page_test.moc"
+#include "gui_start_page_test.moc"

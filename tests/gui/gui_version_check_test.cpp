@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The version check through the Qt port against a loopback HTTP server.
+#include "gui_test_support.h"
+#include "qt_port.h"
+#include "shell/version_check.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QtTest>
+
+namespace {
+
+/// Answers every request with `body` as a plain text document.
+class TinyHttpServer : public QTcpServer
+{
+  public:
+    QByteArray body;
+
+  protected:
+    void incomingConnection(qintptr handle) override
+    {
+        auto* sock = new QTcpSocket(this);
+        sock->setSocketDescriptor(handle);
+        connect(sock, &QTcpSocket::readyRead, sock, [this, sock] {
+            if (!sock->readAll().contains("\r\n\r\n"))
+                return;
+            sock->write("HTTP/1.0 200 OK\r\nContent-Type: text/plain\r\nContent-Length: " +
+                        QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body);
+            sock->disconnectFromHost();
+        });
+    }
+};
+
+QString RunCheck(const QString& url, QMessageBox::StandardButton press = QMessageBox::Ok)
+{
+    tq::gui::QtPort port(nullptr);
+    QString seen;
+    tq::gui::test::AnswerNextDialog([&](QWidget* w) {
+        seen = tq::gui::test::DescribeBox(w);
+        auto* box = qobject_cast<QMessageBox*>(w);
+        if (QAbstractButton* b = box->button(press))
+            b->click();
+        else
+            box->buttons().first()->click();
+    });
+    tq::shell::CheckForUpdate(port, url.toStdString(), "http://127.0.0.1:9/none", 3000);
+    return seen;
+}
+
+} // namespace
+
+class VersionCheckGuiTest : public QObject
+{
+    Q_OBJECT
+  private slots:
+    void answersEachOutcomeOfTheServer()
+    {
+        TinyHttpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        QString url = QString("http://127.0.0.1:%1/tarnquill/download/revision.txt").arg(server.serverPort());
+
+        server.body = "2.00.0002";
+        QVERIFY(RunCheck(url).startsWith("VERSION UP TO DATE: Current version : 2.00.0002"));
+        server.body = "2.00.0003";
+        QVERIFY(RunCheck(url, QMessageBox::No).startsWith("DOWNLOAD NEW VERSION: "));
+        server.body = "2.00.0002\r\n";
+        QVERIFY(RunCheck(url, QMessageBox::No).startsWith("DOWNLOAD NEW VERSION: "));
+        server.body = "";
+        QCOMPARE(RunCheck(url), QString("ERROR: Cannot retrieve the revision from the website"));
+        quint16 port = server.serverPort();
+        server.close();
+        QCOMPARE(RunCheck(QString("http://127.0.0.1:%1/x").arg(port)),
+                 QString("Tarnquill: Cannot retrieve revision. Web Server may be down"));
+    }
+};
+
+QTEST_MAIN(VersionCheckGuiTest)
+#include "gui_version_check_test.moc"
