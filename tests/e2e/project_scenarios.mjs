@@ -269,8 +269,34 @@ async function surveyScenarios(run, browser, cli) {
   }
 }
 
+// CELL PHONE NUMBER and USER NAME put a blank into their variable name
+// ("$cell 5"): PHP refuses the whole script, so a project that holds either
+// (the samples hold both) cannot be submitted. The scenarios above leave them out.
+async function blankKeyScenario(run, browser, cli) {
+  const site = buildSite(cli, 'blank_keys.fms');
+  const server = await startPhp(site);
+  try {
+    await run.test('project with Cell Phone Number and User Name: PHP refuses the script, no mail', async () => {
+      const page = await browser.page();
+      await page.goto(`${server.base}/formtql.htm`);
+      await page.fill('[name="name3"]', 'Ann Example');
+      const [response] = await Promise.all([
+        page.waitForResponse((r) => r.url().endsWith('/formtql.php')),
+        page.click('input[type="submit"]'),
+      ]);
+      expect(response.status() === 500, `expected PHP's parse error (500), got ${response.status()}`);
+      expect(server.mails().length === 0, 'no mail');
+      await page.close();
+    });
+  } finally {
+    await server.stop();
+    fs.rmSync(site, { recursive: true, force: true });
+  }
+}
+
 export async function projectScenarios(run, browser, buildDir) {
   const cli = path.join(buildDir, 'bin', 'tarnquill-cli');
   await formScenarios(run, browser, cli);
   await surveyScenarios(run, browser, cli);
+  await blankKeyScenario(run, browser, cli);
 }
