@@ -6,7 +6,7 @@
 #include "model/attribute_text.h"
 #include "model/catalogue.h"
 #include "model/templates.h"
-#include "model/text_case.h"
+#include "model/text_ops.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "store/project_file.h"
@@ -87,8 +87,8 @@ class ProjectMaker
     void set(int k, const std::string& key, const std::string& value)
     {
         std::string& text = k == 0 ? s.store.pages[0][0].AttributeText : row(k).AttributeText;
-        const std::string mark = "[" + tq::model::UpperCase(key) + "=";
-        const size_t at = tq::model::UpperCase(text).find(mark);
+        const std::string mark = "[" + tq::model::ToUpper(key) + "=";
+        const size_t at = tq::model::ToUpper(text).find(mark);
         ASSERT_NE(at, std::string::npos) << key << " in row " << k;
         const size_t from = at + mark.size();
         const size_t to = text.find(']', from);
@@ -102,7 +102,7 @@ class ProjectMaker
     {
         for (auto& page : s.store.pages)
             for (auto& e : page) {
-                if (tq::model::UpperCase(e.InputTypeName) == "SETUP")
+                if (tq::model::ToUpper(e.InputTypeName) == "SETUP")
                     continue;
                 for (size_t at = e.AttributeText.find("=;"); at != std::string::npos;
                      at = e.AttributeText.find("=;", at + 1))
