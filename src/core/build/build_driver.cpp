@@ -68,15 +68,6 @@ void ShowInstructions(Session&, UiPort& ui)
 
 // ---------------------------------------------------------------------------
 
-void ClearHighlights(model::EntryStore& store)
-{
-    if (store.state.PreviewFromEdit)
-        return;
-    for (auto& page : store.pages)
-        for (auto& e : page)
-            e.highlight = model::Highlight::None;
-}
-
 void ResetBuildCounters(BuildState& b)
 {
     b.questionNumber = 0;
@@ -392,7 +383,7 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
         }
 
         // 3
-        ClearHighlights(s.store);
+        model::ClearHighlights(s.store);
         ResetBuildCounters(b);
 
         // 4
@@ -472,7 +463,7 @@ void BuildWholePage(Session& s, UiPort& ui, int mode)
         b.entryPreview = false;
         b.editPreview = false;
     }
-    ClearHighlights(s.store);
+    model::ClearHighlights(s.store);
     b.wholePage = true;
     BuildOutput(s, ui, 1);
     if (!b.setupHold && !b.cancelled) {
