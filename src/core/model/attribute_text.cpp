@@ -271,7 +271,10 @@ constexpr std::array kBlockKeys = {
 int CountBlockKeys(std::string_view item)
 {
     int n = 0;
+    const char first = item.empty() ? '\0' : UpperChar(item.front());
     for (const BlockKey& b : kBlockKeys) {
+        if (b.key.front() != first)
+            continue;
         const std::string_view front = item.substr(0, b.length);
         if (EqualsNoCase(front, b.key))
             ++n;
