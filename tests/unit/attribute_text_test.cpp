@@ -491,4 +491,10 @@ TEST(NormalizeAttributeText, BrokenTextStaysAsTheLastLine)
 
     port.clear();
     EXPECT_EQ(NormalizeAttributeText(port, "[Title=A] [Unclosed"), "[Title=A]\r\n[Unclosed\r\n");
+
+    // a fault found after the reader took the "[" off still keeps the whole rest
+    port.clear();
+    EXPECT_EQ(NormalizeAttributeText(port, "[A=1] [x[]"), "[A=1]\r\n[x[]\r\n");
+    ASSERT_EQ(port.shown.size(), 1u);
+    EXPECT_EQ(port.shown[0].text, "Cannot find right ] bracket in [\r\rx");
 }

@@ -28,7 +28,8 @@ struct Cursor
     std::string_view rest() const { return std::string_view(buf).substr(off); }
 };
 
-void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, int& err, std::string* serverFolderPath)
+/// Returns true when an item was taken (its value read, empty or not).
+bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, int& err, std::string* serverFolderPath)
 {
     err = 0;
     const std::string k(key);
@@ -51,7 +52,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
             ui.message("Right bracket is missing in " + k + "\r\rFormat should be [XXXX=]", "FORMAT ERROR",
                        Icon::Exclamation);
             err = 1;
-            return;
+            return false;
         }
         // the first "=" lies behind the first "]" (a text with no "=" at all passes)
         if (t.substr(0, rb).find('=') == npos) {
@@ -74,7 +75,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
         const std::string_view show = rb == npos ? t : t.substr(0, rb + 1);
         ui.message("Cannot find left [ bracket in " + k + "\r\r" + std::string(show), "error", Icon::Critical);
         err = 1;
-        return;
+        return false;
     }
 
     // 5. (the wording with "left" is the program's own)
@@ -82,7 +83,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     if (rb == npos) {
         ui.message("Cannot find left ] bracket in " + k + "\r\r", "error", Icon::Critical);
         err = 1;
-        return;
+        return false;
     }
 
     // 6. a "[" counted from the second character that stands before the "]"
@@ -95,7 +96,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
             if (a != npos) {
                 err = 1;
                 ui.message("Right ] bracket is missing in " + k + "\r\r", "error", Icon::Critical);
-                return;
+                return false;
             }
         }
     }
@@ -104,7 +105,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     if ((rb + 1 < t.size() && t[rb + 1] == ']') || (rb + 2 < t.size() && t[rb + 2] == ']')) {
         err = 1;
         ui.message("You cannot have 2 Right ]] brackets in " + k + "\r\r", "error", Icon::Critical);
-        return;
+        return false;
     }
 
     // 8. the key and its "=" leave the text
@@ -127,7 +128,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     // 10. nothing behind: an empty value at the end of the text
     if (nl == npos && nr == npos) {
         value.clear();
-        return;
+        return true;
     }
 
     // 11. no closing bracket for this item
@@ -142,7 +143,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
                            show,
                        "error", Icon::Critical);
         err = 1;
-        return;
+        return false;
     }
 
     // 12. the value, and the text behind it without its leading blanks
@@ -158,6 +159,7 @@ void TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
         if (p.find('/') != npos && p.back() != '/' && p.back() != '\\')
             serverFolderPath->push_back('/');
     }
+    return true;
 }
 
 /// A block key and the length over which it is compared.
@@ -310,16 +312,16 @@ std::string NormalizeAttributeText(UiPort& ui, std::string_view text)
 
     // 2. one item per line, an empty line before a block key
     std::vector<std::string> lines;
-    std::string item; // kept across reads: a read that fails keeps the last item
+    std::string item;
     while (working.find('[', cur.off) != npos) {
         size_t before = cur.off;
         while (before < working.size() && working[before] == ' ')
             ++before;
         int err = 0;
-        TakeAt(ui, "[", item, cur, err, nullptr);
-        if (cur.off == before) {
-            // no progress: a broken text stays as it stands on the last line
-            lines.emplace_back(cur.rest());
+        if (!TakeAt(ui, "[", item, cur, err, nullptr)) {
+            // a broken text: what was left of it before this read stays on
+            // the last line as it stands, so nothing is lost and the loop ends
+            lines.emplace_back(std::string_view(working).substr(before));
             break;
         }
         for (int n = CountBlockKeys(item); n > 0; --n)

@@ -67,8 +67,9 @@ HtmlLineList SplitHtmlLines(std::string_view text);
 
 /// The stored form of a one-line template: one item per line, blank lines
 /// before block keys, CR LF after every line. Only the first line of `text`
-/// is read. Messages of the reader go to `ui`; a read that makes no progress
-/// (a broken text) puts the rest of the text on the last line as it stands.
+/// is read. Messages of the reader go to `ui`; a read that takes no item (a
+/// broken text) puts the rest of the text, as it stood before that read, on
+/// the last line and ends the loop.
 std::string NormalizeAttributeText(UiPort& ui, std::string_view text);
 
 /// Reads the optional shade pair when the text begins with "[SHADE WIDTH":
