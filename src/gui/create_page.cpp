@@ -5,6 +5,7 @@
 #include "model/entry_store.h"
 #include "pick_list.h"
 
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -12,64 +13,84 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
+#include <QUrl>
 #include <QVBoxLayout>
+#include <QWebEngineView>
 
 namespace tq::gui {
+
+namespace {
+
+QLabel* Hint(const QString& text)
+{
+    auto* l = new QLabel(text);
+    l->setWordWrap(true);
+    l->setStyleSheet("color: #555;");
+    return l;
+}
+
+} // namespace
 
 CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler& handler, QWidget* parent)
     : QWidget(parent), m_store(store), m_page(page)
 {
     setObjectName(QString("Page%1").arg(page));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 8, 12, 8);
+    layout->setContentsMargins(14, 8, 14, 10);
+    layout->setSpacing(8);
     layout->setMenuBar(BuildMenuBar(page == 1 ? MenuKind::CreatePage1 : MenuKind::CreatePageN, this, handler));
 
     auto* top = new QHBoxLayout;
     m_heading = new QLabel;
     m_heading->setObjectName("lblPageHeading");
     m_heading->setStyleSheet("font-size: 18px; font-weight: 600;");
+    auto* status = new QVBoxLayout;
+    status->setSpacing(0);
     m_mode = new QLabel;
     m_mode->setObjectName("lblActive");
+    m_mode->setAlignment(Qt::AlignRight);
     m_mode->setStyleSheet("color: #1f4e79; font-weight: 600;");
     m_file = new QLabel;
     m_file->setObjectName("lblFile");
+    m_file->setAlignment(Qt::AlignRight);
     m_file->setStyleSheet("color: #555;");
+    status->addWidget(m_mode);
+    status->addWidget(m_file);
     top->addWidget(m_heading);
     top->addStretch();
-    top->addWidget(m_mode);
-    top->addSpacing(16);
-    top->addWidget(m_file);
+    top->addLayout(status);
     layout->addLayout(top);
 
     auto* split = new QSplitter(Qt::Horizontal);
+    split->setChildrenCollapsible(false);
     auto* left = new QWidget;
     auto* ll = new QVBoxLayout(left);
-    ll->setContentsMargins(0, 0, 0, 0);
+    ll->setContentsMargins(0, 0, 4, 0);
     auto* pickHead = new QLabel("Input Type Descriptions\nTo make changes, Click on the Edit Button");
     pickHead->setObjectName("lblPickHeading");
     pickHead->setStyleSheet("font-weight: 600;");
     m_pick = new PickList;
-    auto* hint = new QLabel("To add, Highlight and Press Enter, Double Click or Drag/Drop into the Input Types Column");
-    hint->setWordWrap(true);
-    hint->setStyleSheet("color: #555;");
-    auto* previewHint = new QLabel("Highlight and hit the Spacebar to Preview the Input Types above");
-    previewHint->setWordWrap(true);
-    previewHint->setStyleSheet("color: #555;");
+    m_pick->setMinimumWidth(220);
     ll->addWidget(pickHead);
     ll->addWidget(m_pick, 1);
-    ll->addWidget(hint);
-    ll->addWidget(previewHint);
+    ll->addWidget(Hint("To add, Highlight and Press Enter, Double Click or Drag/Drop into the Input Types Column"));
+    ll->addWidget(Hint("Highlight and hit the Spacebar to Preview the Input Types above"));
     split->addWidget(left);
 
     auto* right = new QWidget;
     auto* rl = new QVBoxLayout(right);
-    rl->setContentsMargins(0, 0, 0, 0);
+    rl->setContentsMargins(4, 0, 0, 0);
     auto* buttons = new QHBoxLayout;
     m_order = new QPushButton("Order");
     m_order->setObjectName("Order");
+    m_rowsHeading = new QLabel;
+    m_rowsHeading->setObjectName("lblRowsHeading");
+    m_rowsHeading->setStyleSheet("font-weight: 600;");
     m_clearAll = new QPushButton("CLR All");
     m_clearAll->setObjectName("ClearAll");
     buttons->addWidget(m_order);
+    buttons->addSpacing(12);
+    buttons->addWidget(m_rowsHeading);
     buttons->addStretch();
     buttons->addWidget(m_clearAll);
     rl->addLayout(buttons);
@@ -85,31 +106,40 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     m_table->setDropIndicatorShown(true);
     m_table->setDragDropMode(QAbstractItemView::DragDrop);
     m_table->setDefaultDropAction(Qt::CopyAction);
+    m_table->setDragDropOverwriteMode(true);
+    m_table->setAlternatingRowColors(true);
+    m_table->setWordWrap(false);
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                              QAbstractItemView::AnyKeyPressed);
     m_table->verticalHeader()->setVisible(false);
-    m_table->verticalHeader()->setDefaultSectionSize(26);
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(30);
     QHeaderView* h = m_table->horizontalHeader();
     h->setSectionResizeMode(EntryTableModel::ColNumber, QHeaderView::Fixed);
     h->setSectionResizeMode(EntryTableModel::ColClear, QHeaderView::Fixed);
     h->setSectionResizeMode(EntryTableModel::ColType, QHeaderView::Interactive);
     h->setSectionResizeMode(EntryTableModel::ColText, QHeaderView::Stretch);
     h->setSectionResizeMode(EntryTableModel::ColEdit, QHeaderView::Fixed);
-    m_table->setColumnWidth(EntryTableModel::ColNumber, 48);
-    m_table->setColumnWidth(EntryTableModel::ColClear, 56);
-    m_table->setColumnWidth(EntryTableModel::ColType, 240);
-    m_table->setColumnWidth(EntryTableModel::ColEdit, 56);
+    m_table->setColumnWidth(EntryTableModel::ColNumber, 52);
+    m_table->setColumnWidth(EntryTableModel::ColClear, 64);
+    m_table->setColumnWidth(EntryTableModel::ColType, 250);
+    m_table->setColumnWidth(EntryTableModel::ColEdit, 64);
     for (int row = 0; row < model::kRowsPerPage; ++row) {
-        auto* clear = new QPushButton("Clear");
-        clear->setObjectName(QString("Clear%1").arg(row));
+        // the SetupEntry has no clear command
+        if (!(page == 1 && row == 0)) {
+            auto* clear = new QPushButton("Clear");
+            clear->setObjectName(QString("Clear%1").arg(row));
+            clear->setFocusPolicy(Qt::NoFocus);
+            m_table->setIndexWidget(m_model->index(row, EntryTableModel::ColClear), clear);
+            connect(clear, &QPushButton::clicked, this, [this, row] {
+                if (onClear)
+                    onClear(m_page, row);
+            });
+        }
         auto* edit = new QPushButton("Edit");
         edit->setObjectName(QString("Edit%1").arg(row));
-        m_table->setIndexWidget(m_model->index(row, EntryTableModel::ColClear), clear);
+        edit->setFocusPolicy(Qt::NoFocus);
         m_table->setIndexWidget(m_model->index(row, EntryTableModel::ColEdit), edit);
-        connect(clear, &QPushButton::clicked, this, [this, row] {
-            if (onClear)
-                onClear(m_page, row);
-        });
         connect(edit, &QPushButton::clicked, this, [this, row] {
             if (onEdit)
                 onEdit(m_page, row);
@@ -117,22 +147,45 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     }
     rl->addWidget(m_table, 1);
     split->addWidget(right);
+
+    // The quick preview pane: its browser is made on the first preview, so
+    // that the start of the program does not wait for the browser engine.
+    m_previewPane = new QFrame;
+    m_previewPane->setObjectName("QuickPreviewPane");
+    m_previewPane->setFrameShape(QFrame::StyledPanel);
+    auto* pl = new QVBoxLayout(m_previewPane);
+    pl->setContentsMargins(6, 6, 6, 6);
+    auto* previewHint = Hint("Highlight and click on SPACEBAR to preview any selection. ESC key to Exit Preview");
+    previewHint->setObjectName("lblPreviewHint");
+    auto* previewExit = new QPushButton("ESC TO EXIT OR CLICK HERE");
+    previewExit->setObjectName("cmdExitPreview");
+    previewExit->setToolTip("ESC to exit Quick Preview");
+    pl->addWidget(previewHint);
+    pl->addWidget(previewExit);
+    m_previewPane->hide();
+    split->addWidget(m_previewPane);
     split->setStretchFactor(0, 1);
     split->setStretchFactor(1, 3);
+    split->setStretchFactor(2, 2);
     layout->addWidget(split, 1);
 
     m_pick->onAdd = [this] {
         if (onAdd)
-            onAdd(m_page, m_pick->currentItem() ? m_pick->currentItem()->data(Qt::UserRole).toInt() : -1);
+            onAdd(m_page, selectedPickIndex());
     };
     m_pick->onPreview = [this] {
-        if (onQuickPreview && m_pick->currentItem())
-            onQuickPreview(m_page, m_pick->currentItem()->data(Qt::UserRole).toInt());
+        if (onQuickPreview)
+            onQuickPreview(m_page, selectedPickIndex());
     };
     m_pick->onEscape = [this] {
         if (onEscape)
             onEscape(m_page);
     };
+    connect(m_pick, &QListWidget::itemClicked, this, [this] { hidePreview(); });
+    connect(previewExit, &QPushButton::clicked, this, [this] {
+        if (onEscape)
+            onEscape(m_page);
+    });
     m_model->onDrop = [this](int target, int source, int pick) {
         if (onDrop)
             onDrop(m_page, target, source, pick);
@@ -152,23 +205,29 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     setToolTipsShown(true);
 }
 
-void CreatePage::setPickList(const QStringList& names, const QList<int>& indexes)
+int CreatePage::selectedPickIndex() const
+{
+    return m_pick->currentItem() && m_pick->currentItem()->isSelected() ? m_pick->currentRow() : -1;
+}
+
+void CreatePage::setPickList(const QStringList& names)
 {
     int keep = m_pick->currentRow();
     m_pick->clear();
-    for (int i = 0; i < names.size(); ++i) {
-        auto* item = new QListWidgetItem(names[i], m_pick);
-        item->setData(Qt::UserRole, indexes.value(i, i));
-    }
+    m_pick->addItems(names);
     if (keep >= 0 && keep < m_pick->count())
         m_pick->setCurrentRow(keep);
 }
 
-void CreatePage::setCaptions(const QString& heading, const QString& modeText, const QString& fileText)
+void CreatePage::setCaptions(const QString& heading,
+                             const QString& modeText,
+                             const QString& fileText,
+                             const QString& mode)
 {
     m_heading->setText(heading);
     m_mode->setText(modeText);
     m_file->setText(fileText);
+    m_rowsHeading->setText("Questions added to your " + mode.toLower() + "\nInput Types");
 }
 
 void CreatePage::refresh()
@@ -179,9 +238,8 @@ void CreatePage::refresh()
         const auto& e = rows[static_cast<size_t>(row)];
         if (auto* edit = m_table->indexWidget(m_model->index(row, EntryTableModel::ColEdit)))
             edit->setEnabled(e.EditEnabled);
-        // the SetupEntry has no clear command
         if (auto* clear = m_table->indexWidget(m_model->index(row, EntryTableModel::ColClear)))
-            clear->setVisible(!(m_page == 1 && row == 0));
+            clear->setEnabled(!QString::fromStdString(e.InputTypeName).trimmed().isEmpty());
     }
 }
 
@@ -196,6 +254,51 @@ void CreatePage::setToolTipsShown(bool on)
     for (int row = 0; row < model::kRowsPerPage; ++row)
         if (auto* edit = m_table->indexWidget(m_model->index(row, EntryTableModel::ColEdit)))
             edit->setToolTip(on ? "Click on the Edit Button to make changes" : QString());
+}
+
+void CreatePage::selectRow(int row)
+{
+    if (row < 0 || row >= model::kRowsPerPage)
+        return;
+    m_table->selectRow(row);
+    m_table->scrollTo(m_model->index(row, EntryTableModel::ColType));
+}
+
+void CreatePage::focusFirstRow()
+{
+    selectRow(0);
+    m_table->setFocus();
+}
+
+void CreatePage::focusPickList()
+{
+    if (m_pick->count() > 0 && m_pick->currentRow() < 0)
+        m_pick->setCurrentRow(0);
+    m_pick->setFocus();
+}
+
+void CreatePage::showPreview(const QString& file)
+{
+    if (!m_web) {
+        m_web = new QWebEngineView;
+        m_web->setObjectName("QuickPreview");
+        m_web->setFocusPolicy(Qt::NoFocus);
+        static_cast<QVBoxLayout*>(m_previewPane->layout())->insertWidget(0, m_web, 1);
+    }
+    m_web->setUrl(QUrl::fromLocalFile(file));
+    m_previewPane->show();
+    // arrow keys and Space go on from the pick list
+    m_pick->setFocus();
+}
+
+void CreatePage::hidePreview()
+{
+    m_previewPane->hide();
+}
+
+bool CreatePage::previewVisible() const
+{
+    return !m_previewPane->isHidden();
 }
 
 } // namespace tq::gui

@@ -8,6 +8,9 @@
 class QLabel;
 class QTableView;
 class QPushButton;
+class QFrame;
+class QStackedLayout;
+class QWebEngineView;
 
 namespace tq::model {
 struct EntryStore;
@@ -18,7 +21,8 @@ namespace tq::gui {
 class EntryTableModel;
 class PickList;
 
-/// The view of one Page: the pick list of Input Types and the 25 rows.
+/// The view of one Page: the pick list of Input Types, the 25 rows of the
+/// Page and the quick preview pane.
 class CreatePage : public QWidget
 {
     Q_OBJECT
@@ -30,13 +34,27 @@ class CreatePage : public QWidget
     EntryTableModel* model() const { return m_model; }
     QTableView* table() const { return m_table; }
 
-    /// Fills the pick list: names in catalogue order, each with its index.
-    void setPickList(const QStringList& names, const QList<int>& indexes);
-    /// Sets the captions and status labels.
-    void setCaptions(const QString& heading, const QString& modeText, const QString& fileText);
+    /// Fills the pick list; the selection stays on the same index.
+    void setPickList(const QStringList& names);
+    /// Sets the page heading, the two status labels and the mode word of the
+    /// row column's heading.
+    void setCaptions(const QString& heading, const QString& modeText, const QString& fileText, const QString& mode);
     /// Re-reads the rows from the store and enables the row buttons.
     void refresh();
+    /// Sets or empties the tool tips of the rows and the page's commands.
     void setToolTipsShown(bool on);
+    /// Selects a row so that the user sees it.
+    void selectRow(int row);
+    /// Puts the focus on the first row.
+    void focusFirstRow();
+    /// Selects the pick list and gives it the focus.
+    void focusPickList();
+
+    /// Shows `file` in the quick preview pane (made on first use).
+    void showPreview(const QString& file);
+    /// Hides the quick preview pane.
+    void hidePreview();
+    bool previewVisible() const;
 
     // Row and page actions, answered by the window that runs the core.
     std::function<void(int page, int pickIndex)> onAdd;
@@ -46,10 +64,14 @@ class CreatePage : public QWidget
     std::function<void(int page, int row)> onEdit;
     std::function<void(int page)> onOrder;
     std::function<void(int page)> onClearAll;
+    /// A drop on `targetRow`: from row `sourceRow` of this Page, or (sourceRow
+    /// -1) the pick list item `pickIndex`.
     std::function<void(int page, int targetRow, int sourceRow, int pickIndex)> onDrop;
     std::function<void(int page, int row)> onNumberChanged;
 
   private:
+    int selectedPickIndex() const;
+
     model::EntryStore& m_store;
     int m_page;
     PickList* m_pick = nullptr;
@@ -58,8 +80,11 @@ class CreatePage : public QWidget
     QLabel* m_heading = nullptr;
     QLabel* m_mode = nullptr;
     QLabel* m_file = nullptr;
+    QLabel* m_rowsHeading = nullptr;
     QPushButton* m_order = nullptr;
     QPushButton* m_clearAll = nullptr;
+    QFrame* m_previewPane = nullptr;
+    QWebEngineView* m_web = nullptr;
 };
 
 } // namespace tq::gui

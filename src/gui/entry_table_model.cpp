@@ -68,6 +68,8 @@ QVariant EntryTableModel::data(const QModelIndex& index, int role) const
 
 QVariant EntryTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (role == Qt::ToolTipRole && orientation == Qt::Horizontal && section == ColEdit)
+        return QString("Edit Input Type");
     if (role != Qt::DisplayRole)
         return {};
     if (orientation == Qt::Vertical)
@@ -145,8 +147,8 @@ bool EntryTableModel::dropMimeData(const QMimeData* data, Qt::DropAction, int, i
 
 void EntryTableModel::refresh()
 {
-    beginResetModel();
-    endResetModel();
+    // The page always has 25 rows: a reset would drop the row buttons of the view.
+    emit dataChanged(index(0, 0), index(model::kRowsPerPage - 1, ColCount - 1));
 }
 
 } // namespace tq::gui

@@ -36,7 +36,7 @@ class EntryTableModel : public QAbstractTableModel
     Qt::DropActions supportedDropActions() const override { return Qt::CopyAction | Qt::MoveAction; }
     Qt::DropActions supportedDragActions() const override { return Qt::CopyAction; }
 
-    /// Re-reads the whole page from the store.
+    /// Tells the views that every row may have changed in the store.
     void refresh();
     int page() const { return m_page; }
 

@@ -10,10 +10,15 @@ int main(int argc, char** argv)
     // The browser engine refuses to start as root with its sandbox on.
     if (geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    // the browser views share one GL context
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QApplication::setApplicationName("Tarnquill");
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     tq::gui::MainWindow window;
+    // the program cannot start without its folder
+    if (!window.start())
+        return 1;
     window.show();
     return QApplication::exec();
 }

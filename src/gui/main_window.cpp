@@ -2,94 +2,241 @@
 #include "main_window.h"
 
 #include "create_page.h"
+#include "port/platform.h"
 #include "qt_port.h"
+#include "setup_page.h"
 #include "start_page.h"
+#include "store/project_file.h"
+#include "store/recent_history.h"
+#include "store/setup_store.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFile>
+#include <QMenu>
 #include <QStackedWidget>
+#include <QStandardPaths>
 
 namespace tq::gui {
 
+namespace {
+
+QString ToQ(const std::string& s)
+{
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+} // namespace
+
 MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
-    : QMainWindow(parent), m_port(std::make_unique<QtPort>(this)), m_documentsFolder(documentsFolder)
+    : QMainWindow(parent), m_port(std::make_unique<QtPort>(this))
 {
     setObjectName("MainWindow");
     setWindowTitle("Tarnquill");
+    QString docs = documentsFolder;
+    if (docs.isEmpty())
+        docs = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    m_fixedFolder = QDir(docs).filePath("tarnquill/forms");
+
     m_stack = new QStackedWidget(this);
     setCentralWidget(m_stack);
 
     auto handler = [this](const QString& name) { runCommand(name); };
     m_start = new StartPage(handler);
-    m_stack->addWidget(m_start);
+    registerPage(View::StartPage, m_start);
     for (int page = 1; page <= model::kPageCount; ++page) {
         auto* p = new CreatePage(m_session.store, page, handler);
         m_pages << p;
-        m_stack->addWidget(p);
+        registerPage(static_cast<View>(static_cast<int>(View::Page1) + page - 1), p);
     }
+    // The Setup page's own Exit goes back to the page it was called from.
+    m_setup = new SetupPage(m_session.setup, [this](const QString& name) {
+        runCommand(name == "Exit" ? QStringLiteral("SetupExit") : name);
+    });
+    registerPage(View::SetupPage, m_setup);
+
     m_port->onShowView = [this](View v) { showView(v); };
     m_port->onEntriesChanged = [this] { refreshAll(); };
+    m_port->onSelectRow = [this](int page, int row) {
+        if (auto* p = createPage(page))
+            p->selectRow(row);
+    };
     registerCommands();
-    refreshAll();
-    showView(View::StartPage);
+    collectActions();
+    m_stack->setCurrentWidget(m_start);
     resize(1280, 800);
+    setMinimumSize(960, 600);
 }
 
 MainWindow::~MainWindow() = default;
+
+bool MainWindow::start()
+{
+    Session& s = m_session;
+    // The fixed tool tips of the Setup page and the Pages come with their widgets.
+    store::ClearSetupRows(s.setup);
+    // Row bookkeeping: every reference number starts as its row's ordinal.
+    for (int page = 0; page < model::kPageCount; ++page)
+        for (int row = 0; row < model::kRowsPerPage; ++row)
+            s.store.pages[static_cast<size_t>(page)][static_cast<size_t>(row)].ReferenceNumber =
+                std::to_string(page * model::kRowsPerPage + row + 1);
+    for (auto* p : m_pages)
+        p->hidePreview();
+    s.run.GlobalFont = "arial";
+    s.run.FontSize = "3";
+    s.run.Italics = "off";
+    s.run.Bold = "off";
+
+    // No file of the program is touched before the DataFolder is known.
+    auto folder = store::LoadDataFolder(*m_port, m_fixedFolder.toStdString());
+    if (!folder)
+        return false;
+    s.DataFolder = *folder;
+
+    fillPickLists();
+    store::ImportSetup(s.setup, *m_port, s.DataFolder, true);
+    resetEntryList();
+    store::RefreshPhotoList(s, *m_port);
+    store::RefreshFormList(s, *m_port);
+
+    showView(View::StartPage);
+    store::RefreshStatus(s);
+    refreshAll();
+    return true;
+}
+
+void MainWindow::registerPage(View view, QWidget* page)
+{
+    m_views[view] = page;
+    if (m_stack->indexOf(page) < 0)
+        m_stack->addWidget(page);
+    collectActions();
+}
 
 CreatePage* MainWindow::createPage(int page) const
 {
     return m_pages.value(page - 1);
 }
 
-void MainWindow::showView(View v)
+int MainWindow::PageNumberOf(View v)
 {
-    m_view = v;
     switch (v) {
     case View::StartPage:
-        m_stack->setCurrentWidget(m_start);
-        break;
+        return 1;
     case View::Page1:
+        return 2;
     case View::Page2:
+        return 3;
     case View::Page3:
+        return 4;
     case View::Page4:
-        m_stack->setCurrentWidget(m_pages[static_cast<int>(v) - static_cast<int>(View::Page1)]);
-        break;
+        return 5;
+    case View::FinalPage:
+        return 9;
+    case View::EditPage:
+        return 10;
+    case View::Preview:
+        return 11;
     default:
-        break;
+        return 2;
     }
+}
+
+View MainWindow::ViewOfPageNumber(int number)
+{
+    switch (number) {
+    case 1:
+        return View::StartPage;
+    case 3:
+        return View::Page2;
+    case 4:
+        return View::Page3;
+    case 5:
+        return View::Page4;
+    case 9:
+        return View::FinalPage;
+    case 10:
+        return View::EditPage;
+    case 11:
+        return View::Preview;
+    default:
+        return View::Page1;
+    }
+}
+
+void MainWindow::showView(View v)
+{
+    QWidget* page = m_views.value(v);
+    if (v == View::FinalPage)
+        m_buildFinished = true;
+    if (!page && v == View::FinalPage)
+        return; // until the final page exists the build reports its paths itself
+    if (!page) {
+        // a page that is not built yet: Page 1 stands in
+        v = View::Page1;
+        page = m_views.value(v);
+    }
+    m_view = v;
+    m_stack->setCurrentWidget(page);
+}
+
+void MainWindow::registerCommand(const QString& name, std::function<void()> run)
+{
+    m_commands[name] = std::move(run);
 }
 
 void MainWindow::runCommand(const QString& name)
 {
     auto it = m_commands.find(name);
-    if (it != m_commands.end())
-        it.value()();
+    if (it == m_commands.end())
+        return;
+    // A command may run another one; the views are refreshed once at the end.
+    const bool outer = !m_inCommand;
+    m_inCommand = true;
+    it.value()();
+    if (outer) {
+        m_inCommand = false;
+        refreshAll();
+    }
 }
 
 void MainWindow::registerCommands()
 {
-    m_commands["Exit"] = [this] { confirmExit(); };
-    m_commands["Exit1"] = [this] { confirmExit(); };
-    m_commands["ViewFormSurvey"] = [this] { showView(View::Page1); };
-    m_commands["Main"] = [this] { showView(View::StartPage); };
-    m_commands["NextPage"] = [this] {
-        int idx = static_cast<int>(m_view) - static_cast<int>(View::Page1);
-        if (idx >= 0 && idx < 3)
-            showView(static_cast<View>(static_cast<int>(View::Page1) + idx + 1));
-    };
-    m_commands["PreviousPage"] = [this] {
-        int idx = static_cast<int>(m_view) - static_cast<int>(View::Page1);
-        if (idx >= 1 && idx <= 3)
-            showView(static_cast<View>(static_cast<int>(View::Page1) + idx - 1));
-    };
+    registerCommand("Exit", [this] { confirmExit(); });
+    registerCommand("Exit1", [this] { confirmExit(); });
+    registerCommand("ViewFormSurvey", [this] {
+        showView(View::Page1);
+        m_pages[0]->focusFirstRow();
+    });
+    registerCommand("Main", [this] { showView(View::StartPage); });
+    registerCommand("SetupPage", [this] {
+        m_currentPage = PageNumberOf(m_view);
+        m_setup->refresh();
+        showView(View::SetupPage);
+    });
+    registerCommand("SetupExit", [this] {
+        for (auto* p : m_pages)
+            p->hidePreview();
+        showView(ViewOfPageNumber(m_currentPage));
+    });
+    registerFileCommands();
+    registerPageActions();
+    registerBuildCommands();
+    registerSetupCommands();
 }
 
 void MainWindow::confirmExit()
 {
-    // ends at once: there is no prompt for unsaved work
+    // ends at once: there is no prompt for unsaved work, and the scratch files stay
     if (m_port->ask("Are you sure you want to exit?", "EXIT", Buttons::YesNo, Icon::Question, 1) == Answer::No)
         return;
+    endProgram();
+}
+
+void MainWindow::endProgram()
+{
     if (onExit) {
         onExit();
         return;
@@ -97,34 +244,74 @@ void MainWindow::confirmExit()
     QApplication::exit(0);
 }
 
-void MainWindow::refreshStatus()
+void MainWindow::removeScratchFiles()
 {
-    const auto& st = m_session.store.state;
-    QString mode = QString::fromStdString(st.ProjectMode);
-    QString modeText = mode + " IS ACTIVE";
-    QString fileText = "NOTHING IS CURRENTLY LOADED";
-    if (!st.LoadedMarker.empty())
-        fileText =
-            "FILE LOADED: " + QString(st.LoadedMarker == "Sample Survey Loaded" ? "SAMPLE SURVEY" : "SAMPLE FORM");
-    else if (!st.CurrentFileName.empty())
-        fileText = "FILE LOADED: " + QString::fromStdString(st.CurrentFileName).toUpper();
-    m_start->setStatus(modeText, fileText);
-    QString word = mode.left(1).toUpper() + mode.mid(1).toLower();
-    for (auto* p : m_pages)
-        p->setCaptions(QString("Page %1 of 4     Create: %2").arg(p->page()).arg(word), modeText, fileText);
-}
-
-void MainWindow::refreshAll()
-{
-    refreshStatus();
-    for (auto* p : m_pages)
-        p->refresh();
+    if (m_session.DataFolder.empty())
+        return;
+    for (const char* name : {"\\temp.txt", "\\temp11.txt", "\\downtemp.txt", "\\browsetemp.txt", "\\Preview.htm"})
+        QFile::remove(ToQ(platform::JoinPath(m_session.DataFolder, name))); // failures are ignored
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    // Closing the start page's window cleans up; closing any other page just ends.
+    if (m_view == View::StartPage)
+        removeScratchFiles();
     event->accept();
-    QApplication::exit(0);
+    endProgram();
+}
+
+void MainWindow::collectActions()
+{
+    m_actions.clear();
+    for (QAction* a : m_stack->findChildren<QAction*>()) {
+        if (!a->objectName().isEmpty())
+            m_actions[a->objectName()] << a;
+    }
+}
+
+void MainWindow::refreshMenus()
+{
+    const Session& s = m_session;
+    auto apply = [this](const QString& name, const store::MenuSlot& slot) {
+        for (QAction* a : m_actions.value(name)) {
+            a->setText(ToQ(slot.caption));
+            a->setVisible(slot.visible);
+            a->setEnabled(slot.enabled);
+        }
+    };
+    for (int i = 0; i < store::kMenuSlots; ++i) {
+        const auto n = static_cast<size_t>(i);
+        apply(QString("File%1").arg(i + 1), s.run.formMenu[n]);
+        apply(QString("FileHistory%1").arg(i + 1), s.run.surveyMenu[n]);
+        apply(QString("Web%1").arg(i + 1), s.setup.siteMenus[n]);
+        apply(QString("LivePreview%1").arg(i + 1), s.setup.siteMenus[n]);
+    }
+    // The build menus name the mode, on the start page and on the Pages.
+    const auto& st = s.run.status;
+    for (QAction* a : m_actions.value("createhtmphpMenu"))
+        a->setText(ToQ(st.buildMenu));
+    for (QAction* a : m_actions.value("CreateFormOnly"))
+        a->setText(ToQ(st.buildOnly));
+    for (QAction* a : m_actions.value("CreateFormHTMLCode"))
+        a->setText(ToQ(st.buildWithHtml));
+}
+
+void MainWindow::refreshAll()
+{
+    Session& s = m_session;
+    store::RefreshStatus(s);
+    const auto& st = s.run.status;
+    m_start->setStatus(ToQ(st.modeLabel), ToQ(st.fileLabel));
+    for (auto* p : m_pages) {
+        p->setCaptions(ToQ(st.pageCaptions[static_cast<size_t>(p->page() - 1)]), ToQ(st.modeLabel), ToQ(st.fileLabel),
+                       ToQ(s.store.state.ProjectMode));
+        p->refresh();
+    }
+    applyToolTips();
+    refreshMenus();
+    if (m_view == View::SetupPage)
+        m_setup->refresh();
 }
 
 } // namespace tq::gui

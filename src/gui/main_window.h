@@ -3,19 +3,23 @@
 
 #include "port/ui_port.h"
 #include "session.h"
+#include "store/project_file.h"
 
 #include <QHash>
 #include <QMainWindow>
+#include <QMap>
 #include <functional>
 #include <memory>
 
 class QStackedWidget;
+class QAction;
 
 namespace tq::gui {
 
 class QtPort;
 class StartPage;
 class CreatePage;
+class SetupPage;
 
 /// The one window of the program: a stack of pages, one visible at a time,
 /// each with its own menu bar. It owns the session and runs the commands.
@@ -23,24 +27,46 @@ class MainWindow : public QMainWindow
 {
     Q_OBJECT
   public:
-    /// `documentsFolder` is where the folder pointer lives (tests pass a
-    /// temporary folder); empty means the user's documents folder.
+    /// `documentsFolder` holds the fixed folder "tarnquill/forms" with the
+    /// folder pointer (tests pass a temporary folder); empty means the user's
+    /// documents folder.
     explicit MainWindow(const QString& documentsFolder = {}, QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    /// The start sequence: reads the DataFolder (asking for one when there is
+    /// none), the catalogue, the setup file and the recent lists, then shows
+    /// the start page. False when no folder was given: the program cannot start.
+    bool start();
+
     Session& session() { return m_session; }
     QtPort& port() { return *m_port; }
-    /// Runs a command by its name, as the menus do.
+    /// The fixed folder that holds "\Tarnquill.stt".
+    QString fixedFolder() const { return m_fixedFolder; }
+
+    /// Runs a command by its name, as the menus do, then refreshes the views.
     void runCommand(const QString& name);
+    /// Adds or replaces the command `name`.
+    void registerCommand(const QString& name, std::function<void()> run);
+
+    /// Adds a page to the stack under `view` (the later pages register here).
+    void registerPage(View view, QWidget* page);
     /// Shows one view and hides the others.
     void showView(View v);
     View currentView() const { return m_view; }
     CreatePage* createPage(int page) const;
     StartPage* startPage() const { return m_start; }
-    /// Re-reads every view from the core's records.
+    SetupPage* setupPage() const { return m_setup; }
+    /// The page number of a view as the way back counts it: 1 the start page,
+    /// 2 to 5 the four Pages, 9 the final page, 10 the edit page, 11 the edit window.
+    static int PageNumberOf(View v);
+    /// The view of such a page number; any other number gives Page 1.
+    static View ViewOfPageNumber(int number);
+
+    /// Re-reads every view (rows, captions, menus) from the core's records.
     void refreshAll();
 
-    /// When set, ConfirmExit ends through this instead of quitting the application.
+    /// When set, ConfirmExit and closing the window end through this instead
+    /// of quitting the application.
     std::function<void()> onExit;
 
   protected:
@@ -48,18 +74,35 @@ class MainWindow : public QMainWindow
 
   private:
     void registerCommands();
+    void registerFileCommands();
+    void registerPageActions();
+    void registerBuildCommands();
+    void registerSetupCommands();
     void confirmExit();
-    void refreshStatus();
+    void runBuild(bool wholePage);
+    void endProgram();
+    void refreshMenus();
+    void collectActions();
+    void removeScratchFiles();
+    void fillPickLists();
+    void resetEntryList();
+    store::ProjectHooks projectHooks();
+    void applyToolTips();
 
     Session m_session;
     std::unique_ptr<QtPort> m_port;
     QStackedWidget* m_stack = nullptr;
     StartPage* m_start = nullptr;
+    SetupPage* m_setup = nullptr;
     QList<CreatePage*> m_pages;
+    QMap<View, QWidget*> m_views;
     QHash<QString, std::function<void()>> m_commands;
+    QHash<QString, QList<QAction*>> m_actions;
     View m_view = View::StartPage;
-    int m_currentPage = 1; // the way back from the Setup page
-    QString m_documentsFolder;
+    int m_currentPage = 1; // CurrentPage: the way back from the Setup page
+    QString m_fixedFolder;
+    bool m_inCommand = false;
+    bool m_buildFinished = false; // the build asked for the final page
 };
 
 } // namespace tq::gui

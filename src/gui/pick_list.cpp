@@ -51,7 +51,7 @@ QMimeData* PickList::mimeData(const QList<QListWidgetItem*>& items) const
     if (items.isEmpty())
         return nullptr;
     auto* md = new QMimeData;
-    md->setData(EntryTableModel::kTypeMime, QByteArray::number(items.first()->data(Qt::UserRole).toInt()));
+    md->setData(EntryTableModel::kTypeMime, QByteArray::number(row(items.first())));
     return md;
 }
 

@@ -136,6 +136,10 @@ std::optional<long> QtPort::chooseColor(long initial)
 
 void QtPort::setBusy(bool on)
 {
+    // a mark, not a count: the core may clear it more often than it sets it
+    if (on == m_busy)
+        return;
+    m_busy = on;
     if (on)
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else

@@ -44,6 +44,7 @@ class QtPort : public UiPort
 
   private:
     QWidget* m_parent;
+    bool m_busy = false;
 };
 
 } // namespace tq::gui

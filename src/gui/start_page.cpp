@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "start_page.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tq::gui {
@@ -33,6 +35,34 @@ StartPage::StartPage(const CommandHandler& handler, QWidget* parent) : QWidget(p
     bl->addWidget(tagline);
     bl->addSpacing(12);
     bl->addWidget(hint);
+    bl->addSpacing(28);
+    // The most used commands of the menus, one click away.
+    auto* quick = new QHBoxLayout;
+    quick->setSpacing(12);
+    const struct
+    {
+        const char* command;
+        const char* caption;
+    } shortcuts[] = {{"CreateNewForm", "Create Form"},
+                     {"CreateSurvey", "Create Survey"},
+                     {"openform", "Open Form"},
+                     {"OpenSurvey", "Open Survey"},
+                     {"SetupPage", "Setup Page"}};
+    for (const auto& sc : shortcuts) {
+        auto* b = new QPushButton(sc.caption);
+        b->setObjectName(QString("btn") + sc.command);
+        b->setCursor(Qt::PointingHandCursor);
+        b->setMinimumSize(150, 44);
+        b->setStyleSheet("QPushButton { color: #1f4e79; background: #f4f9fc; border: none; border-radius: 6px;"
+                         " font-size: 15px; font-weight: 600; padding: 8px 18px; }"
+                         "QPushButton:hover { background: white; }"
+                         "QPushButton:pressed { background: #dcebf5; }");
+        const QString command = sc.command;
+        connect(b, &QPushButton::clicked, this, [handler, command] { handler(command); });
+        quick->addWidget(b);
+    }
+    quick->addStretch();
+    bl->addLayout(quick);
     bl->addStretch(3);
     layout->addWidget(banner, 1);
 

@@ -6,32 +6,114 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using namespace tq::gui;
 
+namespace {
+
+QString Label(QWidget* page, const char* name)
+{
+    auto* l = page->findChild<QLabel*>(name);
+    return l ? l->text() : QString("(no %1)").arg(name);
+}
+
+QAction* Action(QWidget* page, const QString& name)
+{
+    return page->findChild<QAction*>(name);
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+} // namespace
+
 class StartPageTest : public QObject
 {
     Q_OBJECT
   private slots:
-    void startsOnTheStartPageWithItsMenus()
+    void startWithNoFolderAsksForOneAndShowsTheStartPage()
     {
         QTemporaryDir docs;
+        const QString data = docs.filePath("my forms");
         MainWindow w(docs.path());
+        QElapsedTimer clock;
+        clock.start();
+        bool started = false;
+        {
+            test::DialogScript script;
+            script.type("").press(QMessageBox::Ok).type(data);
+            started = w.start();
+            QCOMPARE(script.seen, (QStringList{"FOLDER PATH: Choose the folder path where the forms will be saved",
+                                               "NO FOLDER PATH WAS SELECTED: You must choose a folder path before "
+                                               "you can continue",
+                                               "FOLDER PATH: Choose the folder path where the forms will be saved"}));
+        }
+        QVERIFY(started);
+        QCOMPARE(QString::fromStdString(w.session().DataFolder), data);
+        QVERIFY(QFile::exists(docs.filePath("tarnquill/forms/Tarnquill.stt")));
+        QVERIFY(QFile::exists(data + "/FormHistory.txt"));
+
         w.show();
         QVERIFY(QTest::qWaitForWindowExposed(&w));
         QCOMPARE(w.currentView(), tq::View::StartPage);
-        for (const char* name : {"CreateNewForm", "openform", "SaveForm", "CreateSurvey", "OpenSurvey", "File1",
-                                 "File15", "FileHistory15", "CreateFormOnly", "CreateFormHTMLCode", "LivePreview1",
-                                 "Web15", "SetupPage", "SelectTQL", "ViewTarnquillFolder", "CheckForUpdate", "About"})
-            QVERIFY2(w.startPage()->findChild<QAction*>(name), name);
-        auto* mode = w.startPage()->findChild<QLabel*>("lblActive");
-        QVERIFY(mode);
-        QCOMPARE(mode->text(), QString("FORM IS ACTIVE"));
+        QCOMPARE(Label(w.startPage(), "lblActive"), QString("FORM IS ACTIVE"));
+        QCOMPARE(Label(w.startPage(), "lblFile"), QString("NOTHING IS CURRENTLY LOADED"));
+        // no setup file: the first site entry reads "Test", the others are hidden
+        QCOMPARE(Action(w.startPage(), "Web1")->text(), QString("Test"));
+        QVERIFY(Action(w.startPage(), "Web1")->isVisible());
+        QVERIFY(!Action(w.startPage(), "Web2")->isVisible());
+        QVERIFY(!Action(w.createPage(1), "LivePreview2")->isVisible());
+        QVERIFY(!Action(w.startPage(), "File1")->isVisible());
+        QCOMPARE(Action(w.startPage(), "CreateFormOnly")->text(), QString("Build Form Only"));
+        // nothing loaded, but the SetupEntry stands in row 0 of Page 1
+        const auto& setup = w.session().store.pages[0][0];
+        QCOMPARE(QString::fromStdString(setup.InputTypeName), QString("Setup"));
+        QVERIFY(!setup.AttributeText.empty());
+        QVERIFY(w.session().store.pages[0][1].InputTypeName.empty());
+        QCOMPARE(QString::fromStdString(w.session().store.pages[3][24].ReferenceNumber), QString("100"));
         test::SaveScreenshot(&w, "start_page");
+
+        // Edit shows Page 1 with the focus on its first row
+        QVERIFY(test::Trigger(&w, "ViewFormSurvey"));
+        QCOMPARE(w.currentView(), tq::View::Page1);
+        QVERIFY(!Action(w.createPage(1), "PreviousPage"));
+        QVERIFY(test::Trigger(&w, "NextPage"));
+        QCOMPARE(w.currentView(), tq::View::Page2);
+        QVERIFY(test::Trigger(&w, "PreviousPage"));
+        QCOMPARE(w.currentView(), tq::View::Page1);
+        test::SaveScreenshot(&w, "page1_start");
+        w.resize(1920, 1080);
+        QTest::qWait(50);
+        test::SaveScreenshot(&w, "page1_start_1920");
+    }
+
+    void startIsQuickWithAKnownFolder()
+    {
+        QTemporaryDir docs;
+        QDir().mkpath(docs.filePath("tarnquill/forms"));
+        QDir().mkpath(docs.filePath("data"));
+        WriteFile(docs.filePath("tarnquill/forms/Tarnquill.stt"), docs.filePath("data").toUtf8() + "\r\n");
+        QElapsedTimer clock;
+        clock.start();
+        MainWindow w(docs.path());
+        QVERIFY(w.start());
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        QCoreApplication::processEvents();
+        const qint64 ms = clock.elapsed();
+        qInfo("start to start page shown: %lld ms", ms);
+        QVERIFY2(ms < 2000, qPrintable(QString("start took %1 ms").arg(ms)));
     }
 
     void exitAsksAndNoKeepsTheProgramRunning()
@@ -41,18 +123,74 @@ class StartPageTest : public QObject
         bool ended = false;
         w.onExit = [&] { ended = true; };
         w.show();
-        QString seen;
-        test::AnswerNextDialog([&](QWidget* box) {
-            seen = test::DescribeBox(box);
-            qobject_cast<QMessageBox*>(box)->button(QMessageBox::No)->click();
-        });
-        w.runCommand("Exit1");
-        QCOMPARE(seen, QString("EXIT: Are you sure you want to exit?"));
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::No);
+            w.runCommand("Exit1");
+            QCOMPARE(script.seen, QStringList{"EXIT: Are you sure you want to exit?"});
+        }
         QVERIFY(!ended);
-        test::AnswerNextDialog(
-            [&](QWidget* box) { qobject_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click(); });
-        w.runCommand("Exit");
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::Yes);
+            w.runCommand("Exit");
+        }
         QVERIFY(ended);
+    }
+
+    void closingTheStartPageRemovesTheScratchFilesButExitDoesNot()
+    {
+        QTemporaryDir docs;
+        QDir().mkpath(docs.filePath("tarnquill/forms"));
+        const QString data = docs.filePath("data");
+        QDir().mkpath(data);
+        WriteFile(docs.filePath("tarnquill/forms/Tarnquill.stt"), data.toUtf8() + "\r\n");
+        const QStringList scratch{"temp.txt", "temp11.txt", "downtemp.txt", "browsetemp.txt", "Preview.htm"};
+        for (const QString& name : scratch)
+            WriteFile(data + "/" + name, "x\r\n");
+        WriteFile(data + "/keep.fms", "x\r\n");
+
+        MainWindow w(docs.path());
+        bool ended = false;
+        w.onExit = [&] { ended = true; };
+        QVERIFY(w.start());
+        w.show();
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::Yes);
+            w.runCommand("Exit");
+        }
+        QVERIFY(ended);
+        QVERIFY(QFile::exists(data + "/temp.txt"));
+        ended = false;
+        w.close();
+        QVERIFY(ended);
+        for (const QString& name : scratch)
+            QVERIFY2(!QFile::exists(data + "/" + name), qPrintable(name));
+        QVERIFY(QFile::exists(data + "/keep.fms"));
+    }
+
+    void aboutBoxShowsTheVersionAndHasNoSystemInformation()
+    {
+        QTemporaryDir docs;
+        MainWindow w(docs.path());
+        w.show();
+        QString version;
+        QStringList inner;
+        test::DialogScript script;
+        script.then([&](QWidget* about) {
+            QCOMPARE(about->windowTitle(), QString("About Tarnquill"));
+            version = about->findChild<QLabel*>("lblVersion")->text();
+            test::DialogScript info;
+            info.press(QMessageBox::Ok);
+            about->findChild<QPushButton*>("cmdSysInfo")->click();
+            inner = info.seen;
+            about->findChild<QPushButton*>("cmdOK")->click();
+        });
+        w.runCommand("About");
+        QCOMPARE(version, QString("Version 2.00.0002"));
+        QCOMPARE(inner, QStringList{"Tarnquill: System Information Is Unavailable At This Time"});
+        QVERIFY(script.done());
     }
 };
 

@@ -1,15 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui_test_support.h"
 
+#include "main_window.h"
+
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 #include <QWidget>
 
 namespace tq::gui::test {
+
+StartedWindow::StartedWindow() : data(docs.filePath("data"))
+{
+    QDir().mkpath(docs.filePath("tarnquill/forms"));
+    QDir().mkpath(data);
+    QFile stt(docs.filePath("tarnquill/forms/Tarnquill.stt"));
+    if (stt.open(QIODevice::WriteOnly))
+        stt.write(data.toUtf8() + "\r\n");
+    stt.close();
+    w = std::make_unique<MainWindow>(docs.path());
+    w->onExit = [] {};
+    started = w->start();
+    w->show();
+    started = QTest::qWaitForWindowExposed(w.get()) && started;
+}
+
+StartedWindow::~StartedWindow() = default;
+
+const model::Entry& StartedWindow::at(int page, int row) const
+{
+    return w->session().store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
+}
+
+QString StartedWindow::name(int page, int row) const
+{
+    return QString::fromStdString(at(page, row).InputTypeName);
+}
 
 QString SaveScreenshot(QWidget* w, const QString& name)
 {
@@ -34,6 +68,70 @@ void AnswerNextDialog(std::function<void(QWidget*)> answer)
     timer->start();
 }
 
+DialogScript::DialogScript() : m_timer(std::make_unique<QTimer>())
+{
+    m_timer->setInterval(15);
+    QObject::connect(m_timer.get(), &QTimer::timeout, [this] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || !modal->isVisible())
+            return;
+        if (m_answers.isEmpty()) {
+            seen << "UNEXPECTED " + DescribeBox(modal);
+            if (auto* d = qobject_cast<QDialog*>(modal))
+                d->reject();
+            else
+                modal->close();
+            return;
+        }
+        seen << DescribeBox(modal);
+        m_answers.takeFirst()(modal);
+    });
+    m_timer->start();
+}
+
+DialogScript::~DialogScript() = default;
+
+DialogScript& DialogScript::then(std::function<void(QWidget*)> answer)
+{
+    m_answers << std::move(answer);
+    return *this;
+}
+
+DialogScript& DialogScript::press(QMessageBox::StandardButton button)
+{
+    return then([button](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        if (box && box->button(button))
+            box->button(button)->click();
+        else if (auto* d = qobject_cast<QDialog*>(w))
+            d->reject();
+    });
+}
+
+DialogScript& DialogScript::type(const QString& text)
+{
+    return then([text](QWidget* w) {
+        if (auto* input = qobject_cast<QInputDialog*>(w)) {
+            input->setTextValue(text);
+            input->accept();
+        } else if (auto* d = qobject_cast<QDialog*>(w)) {
+            d->reject();
+        }
+    });
+}
+
+DialogScript& DialogScript::choose(const QString& path)
+{
+    return then([path](QWidget* w) {
+        if (auto* dialog = qobject_cast<QFileDialog*>(w)) {
+            dialog->selectFile(path);
+            static_cast<QDialog*>(dialog)->accept(); // QFileDialog::accept is protected
+        } else if (auto* d = qobject_cast<QDialog*>(w)) {
+            d->reject();
+        }
+    });
+}
+
 bool Trigger(QWidget* root, const QString& name)
 {
     for (QAction* a : root->findChildren<QAction*>(name)) {
@@ -41,10 +139,11 @@ bool Trigger(QWidget* root, const QString& name)
         QObject* p = a->parent();
         bool visible = true;
         while (p) {
-            if (auto* w = qobject_cast<QWidget*>(p)) {
+            // a menu is a window of its own, and hidden until it pops up
+            if (auto* w = qobject_cast<QWidget*>(p); w && !qobject_cast<QMenu*>(w)) {
                 if (w->isWindow())
                     break;
-                if (!w->isVisible() && !qobject_cast<QMenu*>(w)) {
+                if (!w->isVisible()) {
                     visible = false;
                     break;
                 }
@@ -63,6 +162,8 @@ QString DescribeBox(QWidget* box)
 {
     if (auto* mb = qobject_cast<QMessageBox*>(box))
         return mb->windowTitle() + ": " + mb->text();
+    if (auto* input = qobject_cast<QInputDialog*>(box))
+        return input->windowTitle() + ": " + input->labelText();
     return box->windowTitle();
 }
 

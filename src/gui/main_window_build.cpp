@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The build commands and the commands of the Help menu that stay in the program.
+#include "about_dialog.h"
+#include "build/build_driver.h"
+#include "busy_cursor.h"
+#include "main_window.h"
+#include "qt_port.h"
+
+namespace tq::gui {
+
+void MainWindow::registerBuildCommands()
+{
+    registerCommand("CreateFormOnly", [this] { runBuild(false); });
+    registerCommand("CreateFormHTMLCode", [this] { runBuild(true); });
+    registerCommand("About", [this] {
+        AboutDialog about(*m_port, this);
+        about.exec();
+    });
+}
+
+void MainWindow::runBuild(bool wholePage)
+{
+    Session& s = m_session;
+    m_buildFinished = false;
+    {
+        BusyCursor busy;
+        if (wholePage)
+            build::CreateFormHTMLCode(s, *m_port);
+        else
+            build::CreateFormOnly(s, *m_port);
+    }
+    if (s.build.endProgram) {
+        endProgram();
+        return;
+    }
+    if (!m_buildFinished)
+        return;
+    // The final page comes later; until then the user learns where the files went.
+    m_port->message("Your files have been created:\r\r" + s.build.htmlPath + "\r" + s.build.phpPath, "BUILD COMPLETE",
+                    Icon::Information);
+}
+
+} // namespace tq::gui

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The File menu: projects, recent lists, the mode commands.
+#include "create_page.h"
+#include "main_window.h"
+#include "qt_port.h"
+#include "store/project_file.h"
+#include "store/recent_history.h"
+
+namespace tq::gui {
+
+void MainWindow::registerFileCommands()
+{
+    Session& s = m_session;
+    QtPort& ui = *m_port;
+
+    registerCommand("SaveForm", [&] { store::SaveProject(s, ui, "fms"); });
+    registerCommand("SaveSurvey", [&] { store::SaveProject(s, ui, "srv"); });
+    // On the start page the open commands move on to Page 1; on the Pages they stay.
+    registerCommand("openform", [this] {
+        if (m_view == View::StartPage)
+            store::OpenFormCommand(m_session, *m_port, projectHooks());
+        else
+            store::OpenProject(m_session, *m_port, PageNumberOf(m_view), "fms", false, projectHooks());
+    });
+    registerCommand("OpenSurvey", [this] {
+        if (m_view == View::StartPage)
+            store::OpenSurveyCommand(m_session, *m_port, projectHooks());
+        else
+            store::OpenProject(m_session, *m_port, PageNumberOf(m_view), "srv", false, projectHooks());
+    });
+    for (int slot = 1; slot <= store::kMenuSlots; ++slot) {
+        registerCommand(QString("File%1").arg(slot), [this, slot] {
+            store::ChooseRecentEntry(m_session, *m_port, store::RecentList::Forms, slot, PageNumberOf(m_view),
+                                     projectHooks());
+        });
+        registerCommand(QString("FileHistory%1").arg(slot), [this, slot] {
+            store::ChooseRecentEntry(m_session, *m_port, store::RecentList::Surveys, slot, PageNumberOf(m_view),
+                                     projectHooks());
+        });
+    }
+    registerCommand("EditFormHistory", [&] { store::EditHistory(s, ui, store::RecentList::Forms); });
+    registerCommand("EditSurveyHistory", [&] { store::EditHistory(s, ui, store::RecentList::Surveys); });
+    registerCommand("RefreshFormHistory", [&] { store::RefreshFormList(s, ui); });
+    registerCommand("RefreshSurveyHistory", [&] { store::RefreshSurveyList(s, ui); });
+}
+
+store::ProjectHooks MainWindow::projectHooks()
+{
+    store::ProjectHooks hooks;
+    return hooks;
+}
+
+} // namespace tq::gui

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The actions of the four Pages: moving between them and the row commands.
+#include "create_page.h"
+#include "main_window.h"
+#include "model/attribute_text.h"
+#include "model/catalogue.h"
+#include "pick_list.h"
+#include "qt_port.h"
+#include "store/project_file.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+namespace tq::gui {
+
+namespace {
+
+QString ToQ(const std::string& s)
+{
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+// Until the edit page is part of the program, an Entry is shown read-only.
+void ShowEntryText(QWidget* parent, const model::Entry& e, int page, int row)
+{
+    QDialog box(parent);
+    box.setObjectName("EntryTextView");
+    box.setWindowTitle(QString("Page %1, row %2: %3").arg(page).arg(row).arg(ToQ(e.InputTypeName)));
+    auto* layout = new QVBoxLayout(&box);
+    auto* text = new QPlainTextEdit(ToQ(e.AttributeText));
+    text->setReadOnly(true);
+    text->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    layout->addWidget(new QLabel(ToQ(e.InputTypeName)));
+    layout->addWidget(text, 1);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
+    layout->addWidget(buttons);
+    box.resize(640, 420);
+    box.exec();
+}
+
+} // namespace
+
+void MainWindow::registerPageActions()
+{
+    auto step = [this](int delta) {
+        const int index = static_cast<int>(m_view) - static_cast<int>(View::Page1) + delta;
+        if (index < 0 || index >= model::kPageCount)
+            return;
+        showView(static_cast<View>(static_cast<int>(View::Page1) + index));
+        if (!m_session.store.state.PreviewFromEdit)
+            m_pages[index]->focusPickList();
+    };
+    registerCommand("NextPage", [step] { step(1); });
+    registerCommand("PreviousPage", [step] { step(-1); });
+
+    m_port->onOpenEditPage = [this](int page, int row, const std::string&) {
+        if (page < 1 || page > model::kPageCount || row < 0 || row >= model::kRowsPerPage)
+            return;
+        showView(static_cast<View>(static_cast<int>(View::Page1) + page - 1));
+        refreshAll();
+        m_pages[page - 1]->selectRow(row);
+        ShowEntryText(this, m_session.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)], page, row);
+    };
+
+    for (CreatePage* p : m_pages) {
+        p->onEdit = [this](int page, int row) {
+            auto& store = m_session.store;
+            auto& e = store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
+            if (!e.EditEnabled)
+                return;
+            if (e.AttributeText.empty()) {
+                m_port->message("Nothing has been added to this input type", "EDIT", Icon::Exclamation);
+                return;
+            }
+            store.state.EditRow = row;
+            store.state.EditPage = page;
+            e.highlight = model::Highlight::Red;
+            refreshAll();
+            m_port->openEditPage(page, row, "");
+            refreshAll();
+        };
+    }
+}
+
+void MainWindow::fillPickLists()
+{
+    Session& s = m_session;
+    model::FillPickLists(s.catalogue, s.settings, s.store.state);
+    for (CreatePage* p : m_pages) {
+        QStringList names;
+        for (const std::string& name : s.catalogue.PickLists[static_cast<size_t>(p->page() - 1)])
+            names << ToQ(name);
+        p->setPickList(names);
+    }
+}
+
+void MainWindow::applyToolTips()
+{
+    for (CreatePage* p : m_pages)
+        p->setToolTipsShown(m_session.settings.ShowToolTips == 1);
+}
+
+void MainWindow::resetEntryList()
+{
+    // every row empty but the SetupEntry, which takes the SETUP text of the mode
+    Session& s = m_session;
+    for (auto& page : s.store.pages)
+        for (auto& e : page) {
+            e.InputTypeName.clear();
+            e.AttributeText.clear();
+            e.highlight = model::Highlight::None;
+        }
+    model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
+    auto& setup = s.store.pages[0][0];
+    setup.InputTypeName = "Setup";
+    setup.AttributeText = model::NormalizeAttributeText(*m_port, s.catalogue.SetupTemplate);
+    store::RefreshRowEditFlags(s.store);
+}
+
+} // namespace tq::gui
