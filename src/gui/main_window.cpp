@@ -11,6 +11,7 @@
 #include "store/setup_store.h"
 
 #include <QAction>
+#include <algorithm>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -43,25 +44,16 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
     m_stack = new QStackedWidget(this);
     setCentralWidget(m_stack);
 
-    auto handler = [this](const QString& name) { runCommand(name); };
-    m_start = new StartPage(handler);
+    // The start page alone is made now; the other pages are made when first
+    // shown, so that the program is quick to start.
+    m_start = new StartPage([this](const QString& name) { runCommand(name); });
     registerPage(View::StartPage, m_start);
-    for (int page = 1; page <= model::kPageCount; ++page) {
-        auto* p = new CreatePage(m_session.store, page, handler);
-        m_pages << p;
-        registerPage(static_cast<View>(static_cast<int>(View::Page1) + page - 1), p);
-    }
-    // The Setup page's own Exit goes back to the page it was called from.
-    m_setup = new SetupPage(m_session.setup, [this](const QString& name) {
-        runCommand(name == "Exit" ? QStringLiteral("SetupExit") : name);
-    });
-    registerPage(View::SetupPage, m_setup);
 
     m_port->onShowView = [this](View v) { showView(v); };
     m_port->onEntriesChanged = [this] { refreshAll(); };
     m_port->onSelectRow = [this](int page, int row) {
-        if (auto* p = createPage(page))
-            p->selectRow(row);
+        if (page >= 1 && page <= model::kPageCount)
+            createPage(page)->selectRow(row);
     };
     registerCommands();
     collectActions();
@@ -82,7 +74,7 @@ bool MainWindow::start()
         for (int row = 0; row < model::kRowsPerPage; ++row)
             s.store.pages[static_cast<size_t>(page)][static_cast<size_t>(row)].ReferenceNumber =
                 std::to_string(page * model::kRowsPerPage + row + 1);
-    for (auto* p : m_pages)
+    for (auto* p : madePages())
         p->hidePreview();
     s.run.GlobalFont = "arial";
     s.run.FontSize = "3";
@@ -115,9 +107,42 @@ void MainWindow::registerPage(View view, QWidget* page)
     collectActions();
 }
 
-CreatePage* MainWindow::createPage(int page) const
+CreatePage* MainWindow::createPage(int page)
 {
-    return m_pages.value(page - 1);
+    const auto index = static_cast<size_t>(std::clamp(page, 1, model::kPageCount) - 1);
+    if (!m_pages[index]) {
+        auto* p = new CreatePage(m_session.store, static_cast<int>(index) + 1,
+                                 [this](const QString& name) { runCommand(name); });
+        m_pages[index] = p;
+        wirePage(p);
+        registerPage(static_cast<View>(static_cast<int>(View::Page1) + static_cast<int>(index)), p);
+        refreshAll();
+    }
+    return m_pages[index];
+}
+
+QList<CreatePage*> MainWindow::madePages() const
+{
+    QList<CreatePage*> made;
+    for (CreatePage* p : m_pages)
+        if (p)
+            made << p;
+    return made;
+}
+
+SetupPage* MainWindow::setupPage()
+{
+    if (!m_setup) {
+        // The Setup page's own Exit goes back to the page it was called from.
+        m_setup = new SetupPage(m_session.setup, [this](const QString& name) {
+            runCommand(name == "Exit" ? QStringLiteral("SetupExit") : name);
+        });
+        m_setup->onCopyField = [this](const QString& text) {
+            store::CopyFieldToClipboard(*m_port, text.toStdString());
+        };
+        registerPage(View::SetupPage, m_setup);
+    }
+    return m_setup;
 }
 
 int MainWindow::PageNumberOf(View v)
@@ -168,6 +193,10 @@ View MainWindow::ViewOfPageNumber(int number)
 
 void MainWindow::showView(View v)
 {
+    if (v >= View::Page1 && v <= View::Page4)
+        createPage(static_cast<int>(v) - static_cast<int>(View::Page1) + 1);
+    if (v == View::SetupPage)
+        setupPage();
     QWidget* page = m_views.value(v);
     if (v == View::FinalPage)
         m_buildFinished = true;
@@ -208,16 +237,16 @@ void MainWindow::registerCommands()
     registerCommand("Exit1", [this] { confirmExit(); });
     registerCommand("ViewFormSurvey", [this] {
         showView(View::Page1);
-        m_pages[0]->focusFirstRow();
+        createPage(1)->focusFirstRow();
     });
     registerCommand("Main", [this] { showView(View::StartPage); });
     registerCommand("SetupPage", [this] {
         m_currentPage = PageNumberOf(m_view);
-        m_setup->refresh();
+        setupPage()->refresh();
         showView(View::SetupPage);
     });
     registerCommand("SetupExit", [this] {
-        for (auto* p : m_pages)
+        for (auto* p : madePages())
             p->hidePreview();
         showView(ViewOfPageNumber(m_currentPage));
     });
@@ -303,14 +332,14 @@ void MainWindow::refreshAll()
     store::RefreshStatus(s);
     const auto& st = s.run.status;
     m_start->setStatus(ToQ(st.modeLabel), ToQ(st.fileLabel));
-    for (auto* p : m_pages) {
+    for (auto* p : madePages()) {
         p->setCaptions(ToQ(st.pageCaptions[static_cast<size_t>(p->page() - 1)]), ToQ(st.modeLabel), ToQ(st.fileLabel),
                        ToQ(s.store.state.ProjectMode));
         p->refresh();
     }
     applyToolTips();
     refreshMenus();
-    if (m_view == View::SetupPage)
+    if (m_setup && m_view == View::SetupPage)
         m_setup->refresh();
 }
 

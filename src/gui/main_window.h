@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <array>
 #include <QMap>
 #include <functional>
 #include <memory>
@@ -53,9 +54,11 @@ class MainWindow : public QMainWindow
     /// Shows one view and hides the others.
     void showView(View v);
     View currentView() const { return m_view; }
-    CreatePage* createPage(int page) const;
+    /// The view of Page `page` (1 to 4), made on first use.
+    CreatePage* createPage(int page);
     StartPage* startPage() const { return m_start; }
-    SetupPage* setupPage() const { return m_setup; }
+    /// The Setup page, made on first use.
+    SetupPage* setupPage();
     /// The page number of a view as the way back counts it: 1 the start page,
     /// 2 to 5 the four Pages, 9 the final page, 10 the edit page, 11 the edit window.
     static int PageNumberOf(View v);
@@ -85,6 +88,10 @@ class MainWindow : public QMainWindow
     void collectActions();
     void removeScratchFiles();
     void fillPickLists();
+    void wirePage(CreatePage* p);
+    void setPickList(CreatePage* p);
+    /// The Pages made so far.
+    QList<CreatePage*> madePages() const;
     void resetEntryList();
     store::ProjectHooks projectHooks();
     void applyToolTips();
@@ -94,7 +101,7 @@ class MainWindow : public QMainWindow
     QStackedWidget* m_stack = nullptr;
     StartPage* m_start = nullptr;
     SetupPage* m_setup = nullptr;
-    QList<CreatePage*> m_pages;
+    std::array<CreatePage*, 4> m_pages{};
     QMap<View, QWidget*> m_views;
     QHash<QString, std::function<void()>> m_commands;
     QHash<QString, QList<QAction*>> m_actions;

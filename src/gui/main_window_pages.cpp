@@ -52,7 +52,7 @@ void MainWindow::registerPageActions()
             return;
         showView(static_cast<View>(static_cast<int>(View::Page1) + index));
         if (!m_session.store.state.PreviewFromEdit)
-            m_pages[index]->focusPickList();
+            createPage(index + 1)->focusPickList();
     };
     registerCommand("NextPage", [step] { step(1); });
     registerCommand("PreviousPage", [step] { step(-1); });
@@ -62,45 +62,52 @@ void MainWindow::registerPageActions()
             return;
         showView(static_cast<View>(static_cast<int>(View::Page1) + page - 1));
         refreshAll();
-        m_pages[page - 1]->selectRow(row);
+        createPage(page)->selectRow(row);
         ShowEntryText(this, m_session.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)], page, row);
     };
 
-    for (CreatePage* p : m_pages) {
-        p->onEdit = [this](int page, int row) {
-            auto& store = m_session.store;
-            auto& e = store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
-            if (!e.EditEnabled)
-                return;
-            if (e.AttributeText.empty()) {
-                m_port->message("Nothing has been added to this input type", "EDIT", Icon::Exclamation);
-                return;
-            }
-            store.state.EditRow = row;
-            store.state.EditPage = page;
-            e.highlight = model::Highlight::Red;
-            refreshAll();
-            m_port->openEditPage(page, row, "");
-            refreshAll();
-        };
-    }
+}
+
+void MainWindow::wirePage(CreatePage* p)
+{
+    p->onEdit = [this](int page, int row) {
+        auto& store = m_session.store;
+        auto& e = store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
+        if (!e.EditEnabled)
+            return;
+        if (e.AttributeText.empty()) {
+            m_port->message("Nothing has been added to this input type", "EDIT", Icon::Exclamation);
+            return;
+        }
+        store.state.EditRow = row;
+        store.state.EditPage = page;
+        e.highlight = model::Highlight::Red;
+        refreshAll();
+        m_port->openEditPage(page, row, "");
+        refreshAll();
+    };
+    setPickList(p);
+}
+
+void MainWindow::setPickList(CreatePage* p)
+{
+    QStringList names;
+    for (const std::string& name : m_session.catalogue.PickLists[static_cast<size_t>(p->page() - 1)])
+        names << ToQ(name);
+    p->setPickList(names);
 }
 
 void MainWindow::fillPickLists()
 {
     Session& s = m_session;
     model::FillPickLists(s.catalogue, s.settings, s.store.state);
-    for (CreatePage* p : m_pages) {
-        QStringList names;
-        for (const std::string& name : s.catalogue.PickLists[static_cast<size_t>(p->page() - 1)])
-            names << ToQ(name);
-        p->setPickList(names);
-    }
+    for (CreatePage* p : madePages())
+        setPickList(p);
 }
 
 void MainWindow::applyToolTips()
 {
-    for (CreatePage* p : m_pages)
+    for (CreatePage* p : madePages())
         p->setToolTipsShown(m_session.settings.ShowToolTips == 1);
 }
 

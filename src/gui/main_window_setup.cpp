@@ -2,7 +2,6 @@
 // The Setup page's commands and the DataFolder commands of the other pages.
 #include "main_window.h"
 #include "qt_port.h"
-#include "setup_page.h"
 #include "store/setup_store.h"
 
 namespace tq::gui {
@@ -27,7 +26,6 @@ void MainWindow::registerSetupCommands()
     for (const char* help : {"Clipboard1", "MenuName", "WebServerPath", "WebFolderPath", "EmailAdrress",
                              "WebEditorPath", "FTPProgramPath", "DefaultPathBrowser"})
         registerCommand(help, [&ui, help] { store::ShowSetupHelp(ui, help); });
-    m_setup->onCopyField = [&ui](const QString& text) { store::CopyFieldToClipboard(ui, text.toStdString()); };
 
     registerCommand("SelectTQL", [this] { store::ChangeDataFolder(*m_port, m_fixedFolder.toStdString()); });
     registerCommand("ViewTarnquillFolder", [this] { m_port->openTarget(m_session.DataFolder); });
