@@ -11,7 +11,6 @@
 #include "store/setup_store.h"
 
 #include <QAction>
-#include <algorithm>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -19,6 +18,7 @@
 #include <QMenu>
 #include <QStackedWidget>
 #include <QStandardPaths>
+#include <algorithm>
 
 namespace tq::gui {
 

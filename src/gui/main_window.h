@@ -7,8 +7,8 @@
 
 #include <QHash>
 #include <QMainWindow>
-#include <array>
 #include <QMap>
+#include <array>
 #include <functional>
 #include <memory>
 

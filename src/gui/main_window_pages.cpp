@@ -65,7 +65,6 @@ void MainWindow::registerPageActions()
         createPage(page)->selectRow(row);
         ShowEntryText(this, m_session.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)], page, row);
     };
-
 }
 
 void MainWindow::wirePage(CreatePage* p)

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "create_page.h"
+#include "entry_table_model.h"
+#include "gui_test_support.h"
+#include "main_window.h"
+#include "model/catalogue.h"
+#include "store/project_file.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QtTest>
+
+using namespace tq::gui;
+
+namespace {
+
+// Puts `type` with its default text into a row, as an add would.
+void PutRow(MainWindow& w, int page, int row, const std::string& type)
+{
+    auto& s = w.session();
+    auto& e = s.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
+    e.InputTypeName = type;
+    e.AttributeText = tq::model::DefaultTemplateFor(s.catalogue, type, s.store.state.ProjectMode) + "\r\n";
+    tq::store::RefreshRowEditFlags(s.store);
+    w.refreshAll();
+}
+
+} // namespace
+
+class BuildTest : public QObject
+{
+    Q_OBJECT
+  private slots:
+    void buildFromTheMenuWritesBothFilesIntoTheWebFolder()
+    {
+        test::StartedWindow app;
+        QVERIFY(app.started);
+        MainWindow& w = *app.w;
+        PutRow(w, 1, 1, "Name");
+        PutRow(w, 1, 2, "Email");
+        const QString web = app.docs.filePath("web");
+        QDir().mkpath(web);
+        auto& setup = w.session().store.pages[0][0].AttributeText;
+        const auto at = setup.find("c:\\users");
+        QVERIFY(at != std::string::npos);
+        setup.replace(at, 8, web.toStdString());
+        // the samples are marked with a leading ";" until the user replaces them
+        for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
+            setup.erase(mark + 1, 1);
+
+        test::DialogScript script;
+        script.press(QMessageBox::Ok);
+        QVERIFY(test::Trigger(&w, "CreateFormOnly"));
+        QVERIFY2(script.done(), qPrintable(script.seen.join(" | ")));
+        const QString html = QString::fromStdString(w.session().build.htmlPath);
+        const QString php = QString::fromStdString(w.session().build.phpPath);
+        QCOMPARE(script.seen.last(), "BUILD COMPLETE: Your files have been created:\n\n" + html + "\n" + php);
+        QVERIFY(html.startsWith(web));
+        QVERIFY(QFile::exists(html));
+        QVERIFY(QFile::exists(php));
+        // the busy pointer is gone on every way out
+        QCOMPARE(QApplication::overrideCursor(), nullptr);
+        QCOMPARE(w.currentView(), tq::View::StartPage);
+    }
+
+    void aMissingWebFolderIsToldAndTheSetupRowShown()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        auto& setup = w.session().store.pages[0][0].AttributeText;
+        const auto at = setup.find("c:\\users");
+        QVERIFY(at != std::string::npos);
+        setup.replace(at, 8, app.docs.filePath("gone").toStdString());
+        test::DialogScript script;
+        script.press(QMessageBox::Ok).then([](QWidget* box) {
+            QCOMPARE(box->objectName(), QString("EntryTextView"));
+            static_cast<QDialog*>(box)->reject();
+        });
+        QVERIFY(test::Trigger(&w, "CreateFormHTMLCode"));
+        QVERIFY2(script.done(), qPrintable(script.seen.join(" | ")));
+        QVERIFY(script.seen[0].startsWith("PATH ERROR: The path to the current web folder does not exist"));
+        QCOMPARE(w.currentView(), tq::View::Page1);
+        QCOMPARE(QApplication::overrideCursor(), nullptr);
+    }
+
+    void editShowsTheRowAndMarksItRed()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        PutRow(w, 2, 3, "Name");
+        w.showView(tq::View::Page2);
+        auto* page = w.createPage(2);
+        QVERIFY(!page->findChild<QPushButton*>("Edit4")->isEnabled());
+        test::DialogScript script;
+        script.then([](QWidget* box) {
+            QCOMPARE(box->objectName(), QString("EntryTextView"));
+            static_cast<QDialog*>(box)->reject();
+        });
+        page->findChild<QPushButton*>("Edit3")->click();
+        QVERIFY(script.done());
+        QVERIFY(app.at(2, 3).highlight == tq::model::Highlight::Red);
+        QCOMPARE(w.session().store.state.EditPage, 2);
+        QCOMPARE(w.session().store.state.EditRow, 3);
+        const auto colour = page->model()->data(page->model()->index(3, EntryTableModel::ColType), Qt::ForegroundRole);
+        QCOMPARE(colour.value<QBrush>().color(), QColor(255, 0, 0));
+    }
+};
+
+QTEST_MAIN(BuildTest)
+#include "gui_build_test.moc"
