@@ -2,7 +2,8 @@
 // Feeds arbitrary text to the attribute reader, the choice list reader, the
 // normaliser and the line splitters. A list bound may be reported as an
 // internal error; anything else that goes wrong is a finding. The &nbsp;
-// rewriting is also checked against a plain, slow reading of its rule.
+// rewriting is also checked against a plain, slow reading of its rule, and
+// the cursor form of the reader against the string form.
 #include "model/attribute_text.h"
 
 #include <array>
@@ -10,15 +11,20 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
 using namespace tq;
 
-/// Discards every message; answers nothing.
+/// Keeps every message; answers nothing.
 struct NullPort : UiPort
 {
-    void message(std::string_view, std::string_view, Icon) override {}
+    std::vector<std::string> messages;
+    void message(std::string_view text, std::string_view title, Icon) override
+    {
+        messages.push_back(std::string(title) + ":" + std::string(text));
+    }
     Answer ask(std::string_view, std::string_view, Buttons, Icon, int) override { return Answer::No; }
     std::optional<std::string> inputBox(std::string_view, std::string_view, std::string_view) override
     {
@@ -63,15 +69,23 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const std::string_view listKey = kListKeys[(data[0] / kKeys.size()) % kListKeys.size()];
     const std::string input(reinterpret_cast<const char*>(data + 1), size - 1);
 
-    // repeated reads until the reader stops making progress
+    // repeated reads until the reader stops making progress; the cursor form
+    // reads alike: the same values, faults, messages and rest
     std::string text = input;
     std::string value, folder;
+    NullPort cursorPort;
+    model::AttributeCursor cursor(input);
+    std::string cursorValue, cursorFolder;
     for (int round = 0; round < 64 && !text.empty(); ++round) {
         const std::string before = text;
-        int err = 0;
+        int err = 0, cursorErr = 0;
         model::TakeAttribute(port, key, value, text, err, &folder);
-        if (text.size() > before.size())
+        model::TakeAttribute(cursorPort, key, cursorValue, cursor, cursorErr, &cursorFolder);
+        if (text.size() > before.size() || before.compare(before.size() - text.size(), text.size(), text) != 0)
             std::abort(); // the reader only ever takes from the front
+        if (err != cursorErr || value != cursorValue || folder != cursorFolder || cursor.rest() != text ||
+            port.messages != cursorPort.messages)
+            std::abort();
         if (text == before || err != 0)
             break;
     }
@@ -104,6 +118,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     } catch (const model::InternalError&) {
     }
 
+    {
+        std::string t = input, width, colour;
+        int err = 0;
+        model::TakeShadeGroup(port, t, width, colour, err);
+    }
+    {
+        std::string t = input, width, lineSize, align, colour;
+        int err = 0;
+        model::TakeLineGroup(port, t, width, lineSize, align, colour, err);
+        if (t.find_first_of("\r\n") != std::string::npos)
+            std::abort(); // the line group reads a text without line breaks
+    }
     (void)model::ColorToHex(input.substr(0, 32));
     return 0;
 }

@@ -18,7 +18,9 @@
 
 namespace {
 
-// Answers Yes, No and Cancel in turn so that every branch of the questions runs.
+// Answers Yes, No and Cancel in turn so that every branch of the questions
+// runs; where the turn starts comes from the input, and an input box gets a
+// name or nothing in turn.
 struct AnsweringPort : tq::UiPort
 {
     int turn = 0;
@@ -30,9 +32,11 @@ struct AnsweringPort : tq::UiPort
         const int n = turn++ % (buttons == tq::Buttons::YesNoCancel ? 3 : 2);
         return n == 0 ? tq::Answer::No : n == 1 ? tq::Answer::Yes : tq::Answer::Cancel;
     }
-    std::optional<std::string> inputBox(std::string_view, std::string_view, std::string_view) override
+    std::optional<std::string> inputBox(std::string_view, std::string_view, std::string_view initial) override
     {
-        return std::nullopt;
+        if (turn++ % 2 == 0)
+            return std::nullopt;
+        return initial.empty() ? std::string("fuzz") : std::string(initial);
     }
     std::optional<std::string> openFileDialog(const tq::FileDialogSpec&) override { return std::nullopt; }
     std::optional<std::string> saveFileDialog(const tq::FileDialogSpec&) override { return std::nullopt; }
@@ -95,6 +99,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const std::string bytes(reinterpret_cast<const char*>(data), size);
     const std::string web = ScratchRoot() + "/web";
     AnsweringPort port;
+    port.turn = size > 0 ? data[size - 1] % 6 : 0;
     for (int run = 0; run < 4; ++run) {
         const bool survey = (run & 1) != 0;
         auto s = std::make_unique<tq::Session>();

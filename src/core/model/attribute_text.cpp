@@ -8,6 +8,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tq::model {
 
@@ -298,6 +299,20 @@ void TakeAttribute(
     TakeAt(ui, key, value, cur, err, serverFolderPath);
     // one erase per read keeps repeated reads linear in the text
     text.erase(0, cur.off);
+}
+
+AttributeCursor::AttributeCursor(std::string whole) : text(std::move(whole)), lastEq(text.rfind('=')) {}
+
+void TakeAttribute(UiPort& ui,
+                   std::string_view key,
+                   std::string& value,
+                   AttributeCursor& cursor,
+                   int& err,
+                   std::string* serverFolderPath)
+{
+    Cursor cur{cursor.text, cursor.offset, cursor.lastEq, true};
+    TakeAt(ui, key, value, cur, err, serverFolderPath);
+    cursor.offset = cur.off;
 }
 
 std::string NormalizeAttributeText(UiPort& ui, std::string_view text)

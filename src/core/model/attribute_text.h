@@ -51,6 +51,30 @@ void TakeAttribute(UiPort& ui,
                    int& err,
                    std::string* serverFolderPath = nullptr);
 
+/// A text read item by item from its front without being shortened: the
+/// unread rest is text[offset..]. Reads through a cursor move `offset` on and
+/// never copy the rest, so reading every item of a text costs time linear in
+/// its length. `text` must not change while it is read.
+struct AttributeCursor
+{
+    std::string text;
+    size_t offset = 0;
+    size_t lastEq = std::string::npos; ///< the last "=" in text, found once
+
+    explicit AttributeCursor(std::string whole);
+    /// The unread rest of the text.
+    std::string_view rest() const { return std::string_view(text).substr(offset); }
+};
+
+/// TakeAttribute on a cursor: the same reads, messages and faults as the
+/// string form, with the taken part passed over instead of erased.
+void TakeAttribute(UiPort& ui,
+                   std::string_view key,
+                   std::string& value,
+                   AttributeCursor& cursor,
+                   int& err,
+                   std::string* serverFolderPath = nullptr);
+
 /// Reads one "[KEY=a,b,c]" item from the front of `text` into `list`.
 /// `key` is upper case. Sets `err` to 1 with its message on a fault.
 void TakeChoiceList(UiPort& ui, std::string_view key, std::string& text, ChoiceList& list, int& err);
