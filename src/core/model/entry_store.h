@@ -49,6 +49,8 @@ struct StateRecord
     bool NewProjectPending = false;
     bool SwitchInProgress = false;
     bool KeepSetupRow = false;
+    bool SkipClearPrompt = false; // one shot: the next ClearAllRows does not ask
+    bool OrderPrompt = false;     // the Order command asks before ReorderEntries runs
     std::string SavedSetupName;
     std::string SavedSetupText;
     int AbortFlag = 0;

@@ -58,6 +58,8 @@ struct UiPort
     virtual void selectRow(int /*page*/, int /*row*/) {}
     /// The rows of the store changed; views refresh from the core's records.
     virtual void entriesChanged() {}
+    /// Hides the preview panes of the pages and the edit page.
+    virtual void hidePreviews() {}
     /// Sets or clears the busy pointer.
     virtual void setBusy(bool) {}
     /// Starts a program, detached; false when it could not be started.

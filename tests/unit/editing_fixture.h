@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/catalogue.h"
+#include "model/editing.h"
+#include "model/entry_store.h"
+#include "model/settings.h"
+#include "scripted_port.h"
+
+#include <memory>
+#include <string>
+
+namespace tq::test {
+
+/// One session's editing records with a scripted port and a fixed dice.
+struct EditFixture
+{
+    model::EntryStore store;
+    model::TemplateSettings settings;
+    model::Catalogue catalogue;
+    ScriptedPort port;
+    model::EditContext ctx{store, settings, catalogue, port};
+
+    explicit EditFixture(std::string mode = "FORM")
+    {
+        store.state.ProjectMode = std::move(mode);
+        auto k = std::make_shared<int>(0);
+        catalogue.Random = [k] { return ((*k)++ % 6) / 6.0 + 0.01; };
+        model::FillPickLists(catalogue, settings, store.state);
+    }
+
+    model::Entry& at(int page, int row) { return model::GetEntry(store, page, row); }
+    const std::string& name(int page, int row) { return at(page, row).InputTypeName; }
+    int index(std::string_view typeName) const { return model::FindCatalogueIndex(catalogue, typeName); }
+
+    /// Fills a row by hand with a name and a short text.
+    void put(int page, int row, std::string typeName)
+    {
+        at(page, row).InputTypeName = typeName;
+        at(page, row).AttributeText = "[Title=" + typeName + "]\r\n";
+    }
+    /// Fills rows first..last of a Page with "Name".
+    void fill(int page, int first, int last)
+    {
+        for (int r = first; r <= last; ++r)
+            put(page, r, "Name");
+    }
+};
+
+} // namespace tq::test
