@@ -5,6 +5,7 @@
 #include "console_port.h"
 #include "port/platform.h"
 #include "session.h"
+#include "shell/publish_check.h"
 #include "store/project_file.h"
 #include "store/text_file.h"
 
@@ -167,6 +168,10 @@ int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostre
     if (b.buildError != 0 || b.setupHold || b.cancelled || b.endProgram)
         return 1;
     out << b.htmlPath << "\n" << b.phpPath << "\n";
+    // a script that PHP cannot parse would fail on the server: say so, but the build stands
+    const auto check = shell::CheckPublishedScript(b, port);
+    if (!check.warning.empty())
+        err << check.warning << "\n";
     return 0;
 }
 

@@ -112,33 +112,6 @@ std::string Upper(std::string s)
 
 } // namespace
 
-std::string PointProjectAt(const std::string& project, const std::string& folder, bool& found)
-{
-    const std::string key = "[DRIVE FOLDER PATH=";
-    const std::string upper = Upper(project);
-    size_t at = upper.find(key);
-    found = at != std::string::npos;
-    if (!found)
-        return project;
-    size_t from = at + key.size();
-    size_t to = project.find_first_of("]\r\n", from);
-    if (to == std::string::npos)
-        to = project.size();
-    return project.substr(0, from) + folder + project.substr(to);
-}
-
-std::string MailCaptureScript(const std::string& mailFolder)
-{
-    // each mail lands whole under a name that sorts by arrival
-    return "#!/bin/sh\n"
-           "# Keeps each mail that the script sends as one file.\n"
-           "d='" +
-           mailFolder +
-           "'\n"
-           "t=\"$d/.incoming-$$\"\n"
-           "cat > \"$t\" && mv \"$t\" \"$d/mail-$(date +%s%N)-$$.txt\"\n";
-}
-
 int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {
     std::string file;
@@ -217,8 +190,9 @@ int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostre
     if (port == 0)
         port = FreePort();
     const std::string address = "127.0.0.1:" + std::to_string(port);
-    std::vector<std::string> argv = {
-        php, "-S", address, "-t", site.string(), "-d", "output_buffering=0", "-d", "sendmail_path=" + capture.string()};
+    std::vector<std::string> argv = {php};
+    for (auto& a : shell::LocalServerArgs(address, site.string(), capture.string()))
+        argv.push_back(std::move(a));
     out.flush();
     pid_t child = ::fork();
     if (child < 0) {

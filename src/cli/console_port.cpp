@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "console_port.h"
 
+#include "run_process.h"
+
 #include <ostream>
 
 namespace tq::cli {
@@ -60,6 +62,12 @@ std::optional<std::string> ConsolePort::browseForFolder(std::string_view, std::s
 std::optional<long> ConsolePort::chooseColor(long)
 {
     return std::nullopt;
+}
+
+std::optional<ProcessResult>
+ConsolePort::runProcess(std::string_view program, const std::vector<std::string>& args, int timeoutMs)
+{
+    return RunProcess(program, args, timeoutMs);
 }
 
 } // namespace tq::cli

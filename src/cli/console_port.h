@@ -24,6 +24,9 @@ class ConsolePort : public UiPort
     std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
     std::optional<long> chooseColor(long initial) override;
+    /// Runs the program for real (the publish check's "php -l").
+    std::optional<ProcessResult>
+    runProcess(std::string_view program, const std::vector<std::string>& args, int timeoutMs) override;
 
     /// Answer the "EDIT SETUP" question with No and "Duplicate File" with Yes.
     bool replace = false;

@@ -99,6 +99,19 @@ bool ScriptedPort::openTarget(std::string_view target)
     return openResult;
 }
 
+std::optional<ProcessResult>
+ScriptedPort::runProcess(std::string_view program, const std::vector<std::string>& args, int)
+{
+    std::vector<std::string> call{std::string(program)};
+    call.insert(call.end(), args.begin(), args.end());
+    ran.push_back(std::move(call));
+    if (processResults.empty())
+        return std::nullopt;
+    auto r = processResults.front();
+    processResults.pop_front();
+    return r;
+}
+
 std::optional<std::string> ScriptedPort::httpGet(std::string_view url, int)
 {
     httpUrls.emplace_back(url);

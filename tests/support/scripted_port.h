@@ -46,6 +46,8 @@ class ScriptedPort : public UiPort
     bool openTarget(std::string_view target) override;
     void setClipboard(std::string_view text) override { clipboard = std::string(text); }
     std::optional<std::string> httpGet(std::string_view url, int timeoutMs) override;
+    std::optional<ProcessResult>
+    runProcess(std::string_view program, const std::vector<std::string>& args, int timeoutMs) override;
 
     /// Queues the answer of the next question.
     void answer(Answer a) { answers.push_back(a); }
@@ -55,6 +57,8 @@ class ScriptedPort : public UiPort
     void file(std::optional<std::string> s) { files.push_back(std::move(s)); }
     void color(std::optional<long> c) { colors.push_back(c); }
     void http(std::optional<std::string> body) { httpBodies.push_back(std::move(body)); }
+    /// Queues what the next program run gives (nullopt: it could not start).
+    void process(std::optional<ProcessResult> r) { processResults.push_back(std::move(r)); }
 
     /// Messages only (not questions), in order.
     std::vector<Shown> messages() const;
@@ -90,6 +94,9 @@ class ScriptedPort : public UiPort
     bool openResult = true;
     std::string clipboard;
     std::vector<std::string> httpUrls;
+    std::deque<std::optional<ProcessResult>> processResults;
+    /// Programs run to their end: the program first, then its arguments.
+    std::vector<std::vector<std::string>> ran;
 };
 
 /// Reads a whole file as bytes; empty when it does not exist.

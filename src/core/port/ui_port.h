@@ -22,6 +22,14 @@ struct FileDialogSpec
     std::string filter;
 };
 
+/// What a program that ran to its end left: its exit code and everything it
+/// wrote to standard output and standard error, in order.
+struct ProcessResult
+{
+    int exitCode = -1;
+    std::string output;
+};
+
 /// The views the core asks the shell to bring to the front.
 enum class View { StartPage, Page1, Page2, Page3, Page4, SetupPage, EditPage, FinalPage, PhotoShowPage, Preview };
 
@@ -73,6 +81,14 @@ struct UiPort
     virtual bool openTarget(std::string_view /*target*/) { return false; }
     /// Puts text on the clipboard.
     virtual void setClipboard(std::string_view /*text*/) {}
+    /// Runs a program to its end and waits for it (a tool check such as
+    /// "php -l"); a program without a folder is looked up on the PATH. nullopt
+    /// when it could not be started or did not end within `timeoutMs`.
+    virtual std::optional<ProcessResult>
+    runProcess(std::string_view /*program*/, const std::vector<std::string>& /*args*/, int /*timeoutMs*/)
+    {
+        return std::nullopt;
+    }
     /// A plain HTTP GET; nullopt when the transfer failed.
     virtual std::optional<std::string> httpGet(std::string_view /*url*/, int /*timeoutMs*/) { return std::nullopt; }
 };
