@@ -3,6 +3,8 @@
 #include "cmd_serve.h"
 #include "commands.h"
 #include "console_port.h"
+#include "model/catalogue.h"
+#include "model/new_project.h"
 #include "port/platform.h"
 #include "session.h"
 #include "shell/publish_check.h"
@@ -111,11 +113,46 @@ std::optional<BuildOptions> ParseBuild(const std::vector<std::string>& args, std
 
 } // namespace
 
-int CmdNew(const std::vector<std::string>&, std::ostream&, std::ostream& err)
+int CmdNew(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {
-    // needs the new-project rows of the catalogue
-    err << "tarnquill-cli: 'new' is not available in this build\n";
-    return 2;
+    std::string mode;
+    std::string file;
+    bool replace = false;
+    for (const auto& a : args) {
+        if (a == "--replace")
+            replace = true;
+        else if (mode.empty() && ModeWord(a) != "")
+            mode = ModeWord(a);
+        else if (!mode.empty() && file.empty() && !a.empty() && a[0] != '-')
+            file = a;
+        else
+            mode = "?";
+    }
+    if (mode.empty() || mode == "?" || file.empty()) {
+        err << "usage: tarnquill-cli new form|survey FILE [--replace]\n";
+        return 2;
+    }
+
+    auto s = std::make_unique<Session>();
+    ConsolePort port(err);
+    port.replace = replace;
+    if (store::FileReadable(file) && port.ask("File " + file + "  already exists. Do you want to replace it?",
+                                              "FILE EXIST", Buttons::YesNo, Icon::Question, 2) != Answer::Yes)
+        return 1;
+
+    // Create Form / Create Survey on an empty store: nothing to clear, so no question
+    model::EditContext c{s->store, s->settings, s->catalogue, port};
+    model::InitCatalogueAtStartup(s->store, s->settings, s->catalogue);
+    if (!model::CreateNewProject(c, model::ModeHooks{}, mode, 2)) {
+        err << "tarnquill-cli: no new project was made\n";
+        return 1;
+    }
+    if (!store::WriteFileReplacing(file, store::FormatProjectFile(store::WriteEntries(s->store)))) {
+        err << "tarnquill-cli: cannot write " << file << "\n";
+        return 1;
+    }
+    out << file << "\n";
+    return 0;
 }
 
 int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)

@@ -68,7 +68,9 @@ struct Project
 
     void add(int row, const std::string& type, const std::string& text)
     {
-        s->store.pages[0][static_cast<size_t>(row)] = {type, text, "", false, tq::model::Highlight::None};
+        // the row keeps its ordinal as reference number: the build reorders by it
+        s->store.pages[0][static_cast<size_t>(row)] = {type, text, std::to_string(row + 1), false,
+                                                       tq::model::Highlight::None};
     }
 
     std::string html() const { return web.file("formtql.htm"); }

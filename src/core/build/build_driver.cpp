@@ -7,6 +7,7 @@
 #include "html/dispatch.h"
 #include "html/headings.h"
 #include "html/page_shell.h"
+#include "model/reorder.h"
 #include "port/platform.h"
 
 #include <algorithm>
@@ -56,9 +57,15 @@ void Leave(Session& s, UiPort& ui)
 // Steps that belong to other parts of the build. Each is a small named call so
 // that the order of the driver stays readable.
 
-// The silent reorder of the Pages by their reference numbers; its faults set
-// buildError. The flat list is gathered again afterwards.
-void ReorderForBuild(Session&, UiPort&) {}
+// The silent reorder of the Pages by their reference numbers (SwitchInProgress
+// keeps its closing messages quiet); an order number of 0 sets buildError.
+// The flat list is gathered again afterwards.
+void ReorderForBuild(Session& s, UiPort& ui)
+{
+    s.store.state.OrderPrompt = false;
+    if (!model::ReorderEntries(s.store, ui))
+        s.build.buildError = 1;
+}
 
 // The publishing instructions of a finished build.
 void ShowInstructions(Session&, UiPort& ui)
