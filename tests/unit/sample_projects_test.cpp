@@ -3,8 +3,9 @@
 // the catalogue's templates through the program's own editing, with the few
 // values a build needs filled in. Each test compares the committed file with
 // what the program makes now; TQ_WRITE_PROJECTS=1 writes them instead.
-#include "model/attribute_text.h"
 #include "model/catalogue.h"
+#include "model/editing.h"
+#include "model/new_project.h"
 #include "model/templates.h"
 #include "model/text_ops.h"
 #include "scripted_port.h"
@@ -24,20 +25,21 @@ namespace {
 
 const std::string kSource = TQ_SOURCE_DIR;
 
-// A project made as a user makes one: a fresh SetupEntry, then Input Types
-// added from the catalogue of the mode, each Followup behind its partner.
+// A project made as a user makes one: Create Form or Create Survey, the
+// default rows cleared, then Input Types added from the pick list, each
+// Followup placed behind its partner by the program.
 class ProjectMaker
 {
   public:
     explicit ProjectMaker(const std::string& mode)
     {
-        s.store.state.ProjectMode = mode;
         // a fixed draw: every RandomCode is 44444444
         s.catalogue.Random = [] { return 0.5; };
-        tq::model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
-        auto& setup = s.store.pages[0][0];
-        setup.InputTypeName = "Setup";
-        setup.AttributeText = tq::model::NormalizeAttributeText(port, s.catalogue.SetupTemplate);
+        tq::model::InitCatalogueAtStartup(s.store, s.settings, s.catalogue);
+        EXPECT_TRUE(tq::model::CreateNewProject(c, tq::model::ModeHooks{}, mode, 2));
+        for (int row = 1; row < tq::model::kRowsPerPage; ++row)
+            if (!s.store.pages[0][static_cast<size_t>(row)].InputTypeName.empty())
+                tq::model::ClearRow(c, 1, row);
     }
 
     /// The names of the pick list, in its order.
@@ -50,20 +52,15 @@ class ProjectMaker
         return names;
     }
 
-    /// Adds `name` to the first free row with its default text (its Followup
+    /// Adds `name` from the pick list to the first free row (its Followup
     /// behind it) and returns the row's ordinal.
     int add(const std::string& name)
     {
-        int k = 1;
-        while (k <= tq::model::kMaxEntries && !row(k).InputTypeName.empty())
-            ++k;
-        const std::string_view followup = tq::model::FollowupFor(name);
-        if (!followup.empty() && k % tq::model::kRowsPerPage == 0)
-            ++k; // a pair never starts on the last row of a Page
-        put(k, name);
-        if (!followup.empty())
-            put(k + 1, std::string(followup));
-        return k;
+        const int index = tq::model::FindCatalogueIndex(s.catalogue, name);
+        EXPECT_GE(index, 0) << name;
+        const auto at = tq::model::AddToFirstFreeRow(c, 1, index);
+        EXPECT_TRUE(at.has_value()) << name;
+        return at ? tq::model::RowOrdinal(at->page, at->row) : 0;
     }
 
     tq::model::Entry& row(int k)
@@ -114,16 +111,9 @@ class ProjectMaker
     std::string projectFile() const { return tq::store::FormatProjectFile(tq::store::WriteEntries(s.store)); }
 
   private:
-    void put(int k, const std::string& name)
-    {
-        auto& e = row(k);
-        e.InputTypeName = name;
-        e.AttributeText = tq::model::NormalizeAttributeText(
-            port, tq::model::DefaultTemplateFor(s.catalogue, name, s.store.state.ProjectMode));
-    }
-
     tq::test::ScriptedPort port;
     tq::Session s;
+    tq::model::EditContext c{s.store, s.settings, s.catalogue, port};
 };
 
 // Compares the committed file with `made`, or writes it when asked to.
