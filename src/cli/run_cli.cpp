@@ -8,7 +8,7 @@
 namespace tq::cli {
 
 static const char* const kUsage = "usage:\n"
-                                  "  tarnquill-cli new form|survey FILE\n"
+                                  "  tarnquill-cli new form|survey FILE [--replace]\n"
                                   "  tarnquill-cli build FILE [--mode form|survey] [--whole-page] "
                                   "[--data-folder DIR] [--replace] [--web-folder DIR]\n"
                                   "  tarnquill-cli show FILE.shw --template PATH\n"
