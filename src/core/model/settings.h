@@ -55,6 +55,12 @@ struct TemplateSettings
     int NumberEachQuestion = 1;
     int ShowToolTips = 1;
     int FrameOff = 0;
+
+    // Defaults the edit page keeps for later Entries: the last colours chosen
+    // for GLOBAL TEXT COLOR and SHADE COLOR, and the SETUP's TOTAL FRAMES.
+    std::string GlobalTextColor = "NONE";
+    std::string ShadeColor = "12632256";
+    std::string TotalFrames = "1";
 };
 
 /// Sets every template default of the settings for `mode` (FORM or SURVEY,

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/instructions.h"
+
+#include "build/validation.h"
+#include "model/text_ops.h"
+#include "port/platform.h"
+#include "session.h"
+#include "store/text_file.h"
+
+#include <algorithm>
+
+namespace tq::shell {
+
+namespace {
+
+std::string CutSeparator(std::string path)
+{
+    while (!path.empty() && (path.back() == '/' || path.back() == '\\'))
+        path.pop_back();
+    return path;
+}
+
+std::string CutSemicolon(std::string path)
+{
+    if (!path.empty() && path.front() == ';')
+        path.erase(0, 1);
+    return path;
+}
+
+/// The value of "[KEY=" in a text, read without the destructive reader.
+std::string PeekValue(std::string_view text, std::string_view key)
+{
+    const std::string open = "[" + std::string(key) + "=";
+    const size_t pos = model::FindNoCase(text, open);
+    if (pos == std::string::npos)
+        return {};
+    const size_t start = pos + open.size();
+    const size_t end = text.find_first_of("]\r\n", start);
+    return std::string(model::Trim(text.substr(start, end == std::string_view::npos ? end : end - start)));
+}
+
+std::string Join(const std::vector<std::string>& items, std::string_view sep)
+{
+    std::string out;
+    for (const auto& item : items)
+        out += (out.empty() ? "" : std::string(sep)) + item;
+    return out;
+}
+
+/// The web server address of the Setup row whose web folder is the output folder.
+std::string ServerPathOf(const Session& s, const std::string& folder)
+{
+    for (const auto& row : s.setup.rows)
+        if (!row.WebFolderPath.empty() && model::EqualsNoCase(CutSeparator(row.WebFolderPath), CutSeparator(folder)))
+            return CutSemicolon(row.WebServerPath);
+    return {};
+}
+
+std::vector<std::string> Uploads(const Session& s)
+{
+    std::vector<std::string> files;
+    if (s.build.wholePage)
+        files.push_back(s.build.setupValues.OutputName);
+    files.push_back(s.build.formAction);
+    return files;
+}
+
+} // namespace
+
+bool HasDownloads(const model::EntryStore& store)
+{
+    for (const auto& page : store.pages)
+        for (const auto& e : page)
+            if (model::StartsWithNoCase(model::Trim(e.InputTypeName), "DOWNLOAD"))
+                return true;
+    return false;
+}
+
+std::vector<std::string> ListExtraPaths(const model::EntryStore& store)
+{
+    std::vector<std::string> lines;
+    auto add = [&](std::string_view label, std::string path) {
+        path = CutSeparator(CutSemicolon(std::move(path)));
+        if (path.empty())
+            return;
+        const std::string line = std::string(label) + path;
+        if (std::find(lines.begin(), lines.end(), line) == lines.end())
+            lines.push_back(line);
+    };
+    for (const auto& page : store.pages)
+        for (const auto& e : page) {
+            if (e.InputTypeName.empty())
+                continue;
+            if (model::StartsWithNoCase(model::Trim(e.InputTypeName), "DOWNLOAD"))
+                add("Web Server Download Path: ", PeekValue(e.AttributeText, "SERVER DOWNLOAD"));
+            if (model::EqualsNoCase(model::Trim(e.InputTypeName), "SETUP")) {
+                const std::string image = PeekValue(e.AttributeText, "BACKGROUND IMAGE PATH");
+                // a commented-out sample image is not uploaded
+                if (!image.empty() && image.front() != ';')
+                    add("Web Server Background Path: ", image);
+            }
+            if (model::FindNoCase(e.AttributeText, "[SERVER PICTURE PATH=") != std::string::npos)
+                add("Web Server Picture Path: ", PeekValue(e.AttributeText, "SERVER PICTURE PATH"));
+            if (model::FindNoCase(e.AttributeText, "[SERVER VIDEO PATH=") != std::string::npos)
+                add("Web Server Video Path: ", PeekValue(e.AttributeText, "SERVER VIDEO PATH"));
+        }
+    return lines;
+}
+
+std::vector<std::string> InstructionLines(const Session& s)
+{
+    const auto& b = s.build;
+    const std::string& mode = s.store.state.ProjectMode;
+    const std::string folder = CutSeparator(b.setupValues.WebFolder);
+    const std::string html = b.setupValues.OutputName;
+    const std::string php = b.formAction;
+    const bool phpExists = !b.phpPath.empty() && store::FileReadable(b.phpPath);
+    std::vector<std::string> lines;
+
+    if (model::EqualsNoCase(mode, "FORM")) {
+        const std::string server = ServerPathOf(s, b.setupValues.WebFolder);
+        if (!server.empty()) {
+            lines.push_back("Web Server File Path: " + server);
+            lines.push_back("   Files to upload to your Web Server: " + Join(Uploads(s), ", "));
+        }
+    }
+    lines.push_back("Note: On your Web Server, " + html + (phpExists ? " and file " + php : std::string()) +
+                    " must be placed in the directory");
+    lines.push_back("          where all of your links associated with your Tarnquill " + mode +
+                    " were created on your " + folder);
+
+    std::vector<std::string> extra = ListExtraPaths(s.store);
+    if (HasDownloads(s.store))
+        extra.push_back("   A download page needs output_buffering set to Off in the PHP settings of your Web Server.");
+    if (b.wholePage) {
+        lines.push_back("1. FTP the " + html + " file and the " + php + " file to your Web Server.");
+        lines.push_back("2. Open your Internet Browser at the " + html + " page of your Web Site");
+        lines.push_back("   to test your " + mode + ".");
+    } else {
+        lines.push_back(html);
+        lines.push_back("1. Using your Web Editor, open the HTML file that you want to insert the new html code");
+        lines.push_back("2. On the bottom left screen select Copy " + mode + " data to the clipboard");
+        lines.push_back("3. In your Web Editor, position the cursor where you want to insert the new code");
+        lines.push_back("     generated by Tarnquill and press CNTRL V and save it to your HTML file");
+        lines.push_back("4. FTP the " + php + " file to your web server.");
+    }
+    lines.insert(lines.end(), extra.begin(), extra.end());
+    lines.push_back(folder);
+    return lines;
+}
+
+FinalPageText ShowInstructions(Session& s, UiPort&)
+{
+    const std::string& mode = s.store.state.ProjectMode;
+    const std::string path = platform::JoinPath(s.DataFolder, "\\Instruct.txt");
+    auto& out = s.build.channels[1];
+    out.close();
+    if (out.open(path)) {
+        for (const auto& line : InstructionLines(s))
+            out.line(line);
+        out.close();
+    }
+    FinalPageText page;
+    page.buttonCaption = "Copy " + mode + " data to the clipboard";
+    page.title = "INSTRUCTIONS ON GETTING YOUR " + mode + " ON THE INTERNET ";
+    page.instructions = store::ReadWholeFile(path).value_or(std::string());
+    page.code = store::ReadWholeFile(s.build.htmlPath).value_or(std::string());
+    page.uploads = Uploads(s);
+    page.uploadLabel =
+        std::string("UPLOAD THE FOLLOWING ") + (page.uploads.size() == 1 ? "FILE" : "FILES") + " TO YOUR WEB SERVER";
+    return page;
+}
+
+int SetupReminder(Session& s, UiPort& ui, int askFirst)
+{
+    int& counter = s.build.reminderCounter;
+    if (askFirst == 1)
+        ++counter;
+    if (counter < 1)
+        return 0;
+    const Answer a = ui.ask("\rDid you update the following items on the setup input type?\r\r"
+                            "1. The name of the DRIVE FOLDER PATH. (Example: c:\\name)\r"
+                            "2. The html file that the user sees when the user clicks on submit form\r"
+                            "3. Email where to send responses",
+                            "CHANGES", Buttons::YesNo, Icon::Question, 1);
+    if (a != Answer::No)
+        return 0;
+    ui.showView(View::Page1);
+    ui.message("Click on the Edit Button for the SETUP INPUT TYPE to edit the SETUP PAGE", "EDIT SETUP",
+               Icon::Information);
+    return 1;
+}
+
+void CopyCodeToClipboard(UiPort& ui, std::string_view code)
+{
+    ui.setClipboard(code);
+    ui.message("The output HTML file code has been saved to the clipboard.\r\rUsing your HTML editor, Open up your "
+               "HTML file that you want to insert the output Tarnquill HTML code and then press CNTRL V to paste the "
+               "HTML Tarnquill code into your HTML file",
+               "HTML CODE COPIED TO THE CLIPBOARD", Icon::Information);
+}
+
+} // namespace tq::shell

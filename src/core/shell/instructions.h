@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "port/ui_port.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tq {
+struct Session;
+}
+namespace tq::model {
+struct EntryStore;
+}
+
+namespace tq::shell {
+
+/// What the final page shows after a build.
+struct FinalPageText
+{
+    std::string heading = "OUTPUT HTML CODE CREATED BY TARNQUILL";
+    std::string ftpLabel = " FTP THE TARNQUILL OUTPUT FILE(S) BELOW TO YOUR WEB SITE";
+    std::string title;                // "INSTRUCTIONS ON GETTING YOUR FORM ON THE INTERNET "
+    std::string buttonCaption;        // "Copy FORM data to the clipboard"
+    std::string uploadLabel;          // "UPLOAD THE FOLLOWING FILE(S) TO YOUR WEB SERVER"
+    std::vector<std::string> uploads; // the file names to upload
+    std::string instructions;         // "\Instruct.txt" as read back
+    std::string code;                 // the output HTML file, empty when unreadable
+};
+
+/// The lines for the extra uploads of the project: "Web Server Download
+/// Path: ", "Web Server Background Path: " (an active background image only),
+/// "Web Server Picture Path: " and "Web Server Video Path: ", one line per
+/// distinct path, each without a leading ";" and a trailing "/" or "\".
+std::vector<std::string> ListExtraPaths(const model::EntryStore& store);
+
+/// True when the project holds a download Entry.
+bool HasDownloads(const model::EntryStore& store);
+
+/// The instruction lines of the last build, in the order they are written.
+std::vector<std::string> InstructionLines(const Session& s);
+
+/// Writes "\Instruct.txt" in the DataFolder line by line, reads it back and
+/// the output HTML file, and returns what the final page shows. The caller
+/// brings the page to the front.
+FinalPageText ShowInstructions(Session& s, UiPort& ui);
+
+/// The reminder of the defaults: returns `answer`, 1 when the user answered
+/// No (Page 1 is shown and the EDIT SETUP note comes), else 0.
+int SetupReminder(Session& s, UiPort& ui, int askFirst);
+
+/// The button COPY OUTPUT TARNQUILL HTML CODE TO THE CLIPBOARD.
+void CopyCodeToClipboard(UiPort& ui, std::string_view code);
+
+} // namespace tq::shell

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/preview.h"
+
+#include "build/build_driver.h"
+#include "build/validation.h"
+#include "html/quick_preview.h"
+#include "model/text_ops.h"
+#include "port/platform.h"
+#include "session.h"
+
+namespace tq::shell {
+
+std::string PreviewEntry(Session& s, UiPort& ui, EditState& st)
+{
+    auto& b = s.build;
+    auto& state = s.store.state;
+    b.setupHold = false;
+    state.commitMode = 11;
+    const int err = CheckEditRows(s, ui, st, true);
+    state.commitMode = 0;
+    if (err != 0)
+        return {};
+
+    state.PreviewSlots[0] = {st.EntryName, ComposeEditText(st)};
+    state.PreviewSlots[1] = {};
+    if (build::IsConditionType(st.EntryName) && st.EditRow + 1 < model::kRowsPerPage) {
+        const auto& below =
+            s.store.pages.at(static_cast<size_t>(st.EditPage - 1)).at(static_cast<size_t>(st.EditRow + 1));
+        if (build::IsFollowupType(below.InputTypeName))
+            state.PreviewSlots[1] = {below.InputTypeName, below.AttributeText};
+    }
+    state.PreviewFromEdit = true;
+    b.wholePage = true;
+    b.editPreview = true;
+    b.entryPreview = true;
+    build::BuildOutput(s, ui, st.EditPage + 1);
+    const bool shown = b.buildError != 1;
+    b.entryPreview = false;
+    b.wholePage = false;
+    state.PreviewFromEdit = false;
+    return shown ? platform::JoinPath(s.DataFolder, "\\Preview.htm") : std::string();
+}
+
+std::string PreviewAttribute(Session& s, UiPort& ui, EditState& st, int row, std::string_view windowText)
+{
+    EditField& f = st.fields.at(static_cast<size_t>(row));
+    f.Value = WindowToValue(f.Key, windowText);
+    if (html::UsesQuickPreview(f.Key))
+        return html::WriteQuickPreview(s, f.Key, f.Value);
+    return PreviewEntry(s, ui, st);
+}
+
+int SetShadeWidthAll(Session& s, UiPort& ui)
+{
+    std::string value;
+    for (;;) {
+        const auto typed = ui.inputBox("Enter from 1 to 100\r\rValue is in %", "SHADE WIDTH", "50");
+        if (!typed)
+            return -1;
+        const long long n = model::ValLong(*typed);
+        if (n >= 1 && n <= 100) {
+            value = *typed;
+            break;
+        }
+        ui.message("Value must be from 1 to 100", "ERROR", Icon::Exclamation);
+    }
+    int changed = 0;
+    for (auto& page : s.store.pages)
+        for (auto& e : page) {
+            if (e.InputTypeName.empty() || model::FindNoCase(e.AttributeText, "[SHADE WIDTH") == std::string::npos)
+                continue;
+            std::string text = e.AttributeText;
+            build::RewriteAttribute(s, "[SHADE WIDTH", value, text);
+            if (s.build.buildError != 0)
+                return changed;
+            e.AttributeText = std::move(text);
+            ++changed;
+        }
+    ui.entriesChanged();
+    return changed;
+}
+
+} // namespace tq::shell
