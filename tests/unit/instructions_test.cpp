@@ -68,7 +68,7 @@ struct Fixture
         port.s = s.get();
         s->DataFolder = data.path();
         s->store.state.ProjectMode = mode;
-        s->store.pages[0][0] = {"Setup", SetupText(web.path()), "", true};
+        s->store.pages[0][0] = {"Setup", SetupText(web.path()), "1", true};
     }
     std::vector<std::string> lines() const
     {
