@@ -117,6 +117,20 @@ bool TouchHtmlFile(BuildState& b, UiPort& ui)
     return false;
 }
 
+// A channel whose writing failed (no space, no permission, a folder gone):
+// its file was left as it was. The box of a failed open tells it, with
+// "writing"; the build stops with buildError 1.
+bool WriteFailed(BuildState& b, UiPort& ui, int channel)
+{
+    const LineWriter& out = b.channels[channel];
+    if (out.good())
+        return false;
+    ui.message(std::string(std::strerror(out.error() != 0 ? out.error() : EIO)) + " when writing " + out.path(),
+               "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+    b.buildError = 1;
+    return true;
+}
+
 bool FileReadable(const std::string& path)
 {
     std::ifstream in(path, std::ios::binary);
@@ -356,6 +370,10 @@ void PhpPass(Session& s, UiPort& ui)
     b.channels[2].close();
     if (b.buildError == 1)
         return;
+    if (WriteFailed(b, ui, 2)) {
+        b.channels.closeAll();
+        return;
+    }
     if (b.optionPending)
         WriteOptionLines(s, ui);
     CopyLines(b, downTemp);
@@ -432,6 +450,11 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
         // 10
         html::WritePageClose(s, b.setupValues.SubmitName);
         b.channels.closeAll();
+        if (WriteFailed(b, ui, 1)) {
+            b.passActive = false;
+            Leave(s, ui);
+            return;
+        }
         if (b.entryPreview) {
             b.passActive = false;
             Leave(s, ui);
@@ -449,6 +472,10 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
         // 14
         b.channels.closeAll();
         b.passActive = false;
+        if (WriteFailed(b, ui, 1)) {
+            Leave(s, ui);
+            return;
+        }
         if (!b.editPreview)
             ShowInstructions(s, ui);
         Leave(s, ui);

@@ -1,15 +1,55 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/line_writer.h"
 
+#include "port/file_system.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
 namespace tq::build {
+
+using platform::WriteFault;
+using platform::WriteStep;
+
+LineWriter::~LineWriter()
+{
+    close();
+}
+
+void LineWriter::fail(int code)
+{
+    if (m_good)
+        m_error = code != 0 ? code : EIO;
+    m_good = false;
+}
 
 bool LineWriter::open(const std::string& path, bool append)
 {
     close();
     m_path = path;
-    m_out.open(path, std::ios::binary | (append ? std::ios::app : std::ios::trunc));
-    m_good = m_out.is_open();
-    return m_good;
+    m_temp.clear();
+    m_good = true;
+    m_error = 0;
+    errno = 0;
+    if (WriteFault(WriteStep::Open, path) != 0) {
+        fail(errno);
+        return false;
+    }
+    if (append) {
+        m_out.open(path, std::ios::binary | std::ios::app);
+    } else {
+        m_temp = path + ".tqtmp";
+        m_out.open(m_temp, std::ios::binary | std::ios::trunc);
+    }
+    if (!m_out.is_open()) {
+        const int code = errno;
+        m_temp.clear();
+        fail(code);
+        errno = m_error;
+        return false;
+    }
+    return true;
 }
 
 void LineWriter::line(std::string_view text)
@@ -20,20 +60,39 @@ void LineWriter::line(std::string_view text)
 
 void LineWriter::piece(std::string_view text)
 {
-    if (!m_out.is_open())
+    if (!m_out.is_open() || !m_good)
         return;
+    if (WriteFault(WriteStep::Write, m_path) != 0) {
+        fail(errno);
+        return;
+    }
     m_out.write(text.data(), static_cast<std::streamsize>(text.size()));
     if (!m_out)
-        m_good = false;
+        fail(errno);
 }
 
 void LineWriter::close()
 {
-    if (m_out.is_open()) {
-        m_out.close();
-        if (m_out.fail())
-            m_good = false;
+    if (!m_out.is_open())
+        return;
+    m_out.close();
+    if (m_out.fail())
+        fail(errno);
+    if (m_temp.empty())
+        return;
+    std::error_code ec;
+    if (m_good) {
+        if (WriteFault(WriteStep::Rename, m_path) != 0)
+            fail(errno);
+        else if (std::filesystem::rename(m_temp, m_path, ec); ec)
+            fail(ec.value());
     }
+    if (!m_good) {
+        // the file stays as it was; the half-written copy goes
+        std::filesystem::remove(m_temp, ec);
+        errno = m_error;
+    }
+    m_temp.clear();
 }
 
 } // namespace tq::build

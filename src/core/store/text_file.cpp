@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/text_file.h"
 
+#include "port/file_system.h"
+
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -53,31 +56,56 @@ std::vector<std::string> SplitFileLines(std::string_view bytes)
 
 bool WriteFileReplacing(const std::string& path, std::string_view bytes)
 {
+    using platform::WriteFault;
+    using platform::WriteStep;
     if (path.empty())
         return false;
     std::error_code ec;
-    if (fs::is_directory(path, ec))
+    if (fs::is_directory(path, ec)) {
+        errno = EISDIR;
         return false;
+    }
     fs::path target(path);
     fs::path temp = target;
     temp += ".tqtmp";
+    // the temporary file goes; errno keeps the fault of the step that failed
+    auto fail = [&temp](int code) {
+        std::error_code ignored;
+        fs::remove(temp, ignored);
+        errno = code != 0 ? code : EIO;
+        return false;
+    };
+    errno = 0;
+    if (WriteFault(WriteStep::Open, path) != 0)
+        return fail(errno);
     {
         std::ofstream out(temp, std::ios::binary | std::ios::trunc);
         if (!out)
-            return false;
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+            return fail(errno);
+        // written in two parts, so that a write can fail half way
+        const size_t half = bytes.size() / 2;
+        out.write(bytes.data(), static_cast<std::streamsize>(half));
+        if (out && WriteFault(WriteStep::Write, path) != 0) {
+            const int code = errno;
+            out.close();
+            return fail(code);
+        }
+        out.write(bytes.data() + half, static_cast<std::streamsize>(bytes.size() - half));
         out.flush();
         if (!out) {
+            const int code = errno;
             out.close();
-            fs::remove(temp, ec);
-            return false;
+            return fail(code);
         }
+        out.close();
+        if (out.fail())
+            return fail(errno);
     }
+    if (WriteFault(WriteStep::Rename, path) != 0)
+        return fail(errno);
     fs::rename(temp, target, ec);
-    if (ec) {
-        fs::remove(temp, ec);
-        return false;
-    }
+    if (ec)
+        return fail(ec.value());
     return true;
 }
 

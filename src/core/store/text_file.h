@@ -22,8 +22,9 @@ bool FileReadable(const std::string& path);
 std::vector<std::string> SplitFileLines(std::string_view bytes);
 
 /// Writes `bytes` to a temporary name beside `path` (the name + ".tqtmp")
-/// and renames it over the target. Returns false, with the old file left byte for byte, when any step
-/// fails.
+/// and renames it over the target. Returns false, with the old file left
+/// byte for byte, no temporary file left behind and errno set to the fault,
+/// when any step fails. Each step passes the write seam (port/file_system.h).
 bool WriteFileReplacing(const std::string& path, std::string_view bytes);
 
 /// Copies one file over another through WriteFileReplacing; false when the
