@@ -238,12 +238,12 @@ struct Built
     {
         s->DataFolder = dataFolder;
         s->store.state.ProjectMode = "FORM";
-        s->store.pages[0][0] = {"Setup", SetupText(web), "", false, tq::model::Highlight::None};
+        s->store.pages[0][0] = {"Setup", SetupText(web), "1", false, tq::model::Highlight::None};
         s->store.pages[0][1] = {"Title",
                                 "[Title=Club news] [Info: t]\r\n[Title Size=3] [Info: s]\r\n[Align=LEFT] "
                                 "[Choices=l]\r\n[Italics=off] [Info: i]\r\n[Bold=off] [Info: b]\r\n[Text "
                                 "Color=0] [Choices=c]\r\n",
-                                "", false, tq::model::Highlight::None};
+                                "2", false, tq::model::Highlight::None};
         WriteFileBytes(html(), "old page\r\n");
         WriteFileBytes(php(), "old script\r\n");
         port.answer(Answer::No);  // EDIT SETUP
