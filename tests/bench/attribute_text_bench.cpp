@@ -35,3 +35,22 @@ static void BM_ReadEveryAttribute(benchmark::State& state)
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(BM_ReadEveryAttribute)->RangeMultiplier(10)->Range(1 << 10, 1 << 20)->Complexity(benchmark::oN);
+
+// The same full read through the cursor form, which passes over each item
+// instead of erasing it from the front of the text.
+static void BM_ReadEveryAttributeCursor(benchmark::State& state)
+{
+    std::string text = bench::MakeAttributeText(static_cast<size_t>(state.range(0)));
+    bench::QuietPort ui;
+    for (auto _ : state) {
+        model::AttributeCursor cursor(text);
+        std::string value;
+        int err = 0;
+        while (!cursor.rest().empty() && err == 0)
+            model::TakeAttribute(ui, "[", value, cursor, err);
+        benchmark::DoNotOptimize(value);
+    }
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * state.range(0));
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(BM_ReadEveryAttributeCursor)->RangeMultiplier(10)->Range(1 << 10, 1 << 20)->Complexity(benchmark::oN);
