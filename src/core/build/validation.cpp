@@ -105,12 +105,16 @@ void FixLineBreaks(std::string& text)
     // a single walk that cancels each LF against a CR just before it ends.
     std::string out;
     out.reserve(text.size());
-    for (char c : text) {
-        if (c == '\n' && !out.empty() && out.back() == '\r')
+    size_t start = 0;
+    for (size_t lf = text.find('\n'); lf != std::string::npos; lf = text.find('\n', start)) {
+        out.append(text, start, lf - start);
+        if (!out.empty() && out.back() == '\r')
             out.pop_back();
         else
-            out += c;
+            out += '\n';
+        start = lf + 1;
     }
+    out.append(text, start, std::string::npos);
     text = std::move(out);
 }
 
