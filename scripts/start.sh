@@ -10,5 +10,7 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
 fi
 echo "No display found: building the sample form with tarnquill-cli instead."
 OUT="$(mktemp -d)"
+mkdir -p "$OUT/web"
 cp data/samples/sample_form.fms "$OUT/"
 build/bin/tarnquill-cli build "$OUT/sample_form.fms" --whole-page --data-folder "$OUT" --replace --web-folder "$OUT/web"
+echo "The page and its script are in $OUT/web"
