@@ -9,6 +9,7 @@
 #include "store/project_file.h"
 #include "store/recent_history.h"
 #include "store/setup_store.h"
+#include "tool_commands.h"
 
 #include <QAction>
 #include <QApplication>
@@ -254,6 +255,7 @@ void MainWindow::registerCommands()
     registerPageActions();
     registerBuildCommands();
     registerSetupCommands();
+    InstallToolCommands(*this);
 }
 
 void MainWindow::confirmExit()

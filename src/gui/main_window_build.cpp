@@ -5,6 +5,7 @@
 #include "busy_cursor.h"
 #include "main_window.h"
 #include "qt_port.h"
+#include "shell/publish_check.h"
 
 namespace tq::gui {
 
@@ -35,9 +36,16 @@ void MainWindow::runBuild(bool wholePage)
     }
     if (!m_buildFinished)
         return;
+    // a script that PHP cannot parse would fail on the server: the warning stands on a line of its own
+    std::string warning;
+    {
+        BusyCursor busy;
+        warning = shell::CheckPublishedScript(s.build, *m_port).warning;
+    }
     // The final page comes later; until then the user learns where the files went.
-    m_port->message("Your files have been created:\r\r" + s.build.htmlPath + "\r" + s.build.phpPath, "BUILD COMPLETE",
-                    Icon::Information);
+    m_port->message("Your files have been created:\r\r" + s.build.htmlPath + "\r" + s.build.phpPath +
+                        (warning.empty() ? std::string() : "\r\r" + warning),
+                    "BUILD COMPLETE", Icon::Information);
 }
 
 } // namespace tq::gui

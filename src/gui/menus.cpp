@@ -84,6 +84,8 @@ static void AddBuildMenu(QMenuBar* bar, const CommandHandler& h)
     QMenu* build = AddMenu(bar, "createhtmphp", "&Build HTM-PHP");
     AddCommand(build, "CreateFormOnly", "Create Form Only", h);
     AddCommand(build, "CreateFormHTMLCode", "Create Form with HTML Code", h);
+    build->addSeparator();
+    AddCommand(build, "TestLocally", "Test Locally", h);
 }
 
 QMenuBar* BuildMenuBar(MenuKind kind, QWidget* parent, const CommandHandler& h)

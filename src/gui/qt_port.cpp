@@ -212,4 +212,26 @@ bool QtPort::startProgram(std::string_view program,
     return QProcess::startDetached(ToQ(program), list, ToQ(workingFolder));
 }
 
+std::optional<ProcessResult>
+QtPort::runProcess(std::string_view program, const std::vector<std::string>& args, int timeoutMs)
+{
+    QStringList list;
+    for (const auto& a : args)
+        list << ToQ(a);
+    QProcess p;
+    p.setProcessChannelMode(QProcess::MergedChannels);
+    p.start(ToQ(program), list);
+    if (!p.waitForStarted(timeoutMs))
+        return std::nullopt;
+    if (!p.waitForFinished(timeoutMs)) {
+        p.kill();
+        p.waitForFinished(3000);
+        return std::nullopt;
+    }
+    ProcessResult r;
+    r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    r.output = p.readAll().toStdString();
+    return r;
+}
+
 } // namespace tq::gui

@@ -35,6 +35,8 @@ class QtPort : public UiPort
     bool startProgram(std::string_view program,
                       const std::vector<std::string>& args,
                       std::string_view workingFolder) override;
+    std::optional<ProcessResult>
+    runProcess(std::string_view program, const std::vector<std::string>& args, int timeoutMs) override;
 
     // The window that owns the pages answers the shell hooks.
     std::function<void(View)> onShowView;

@@ -1,0 +1,339 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "local_test_window.h"
+
+#include "build/build_driver.h"
+#include "shell/local_test.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHostAddress>
+#include <QLabel>
+#include <QListWidget>
+#include <QProcess>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStandardPaths>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QThread>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+namespace tq::gui {
+
+namespace {
+
+// The build of a local test: messages and questions reach the user, but the
+// shell's navigation stays where it is, and the questions about files that
+// exist (in a folder that was just made) are answered so that nothing stops.
+class LocalBuildPort : public UiPort
+{
+  public:
+    explicit LocalBuildPort(UiPort& ui) : m_ui(ui) {}
+    void message(std::string_view text, std::string_view title, Icon icon) override { m_ui.message(text, title, icon); }
+    Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int def) override
+    {
+        if (title == "EDIT SETUP")
+            return Answer::No;
+        if (title == "Duplicate File")
+            return Answer::Yes;
+        return m_ui.ask(text, title, buttons, icon, def);
+    }
+    std::optional<std::string> inputBox(std::string_view p, std::string_view t, std::string_view i) override
+    {
+        return m_ui.inputBox(p, t, i);
+    }
+    std::optional<std::string> openFileDialog(const FileDialogSpec& s) override { return m_ui.openFileDialog(s); }
+    std::optional<std::string> saveFileDialog(const FileDialogSpec& s) override { return m_ui.saveFileDialog(s); }
+    std::optional<std::string> browseForFolder(std::string_view t, std::string_view i) override
+    {
+        return m_ui.browseForFolder(t, i);
+    }
+    std::optional<long> chooseColor(long c) override { return m_ui.chooseColor(c); }
+    void setBusy(bool on) override { m_ui.setBusy(on); }
+
+  private:
+    UiPort& m_ui;
+};
+
+int FreePort()
+{
+    QTcpServer probe;
+    if (!probe.listen(QHostAddress::LocalHost, 0))
+        return 0;
+    return probe.serverPort();
+}
+
+bool Accepts(int port)
+{
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(port));
+    return socket.waitForConnected(200);
+}
+
+// Text for the panel: the mail's CR LF become plain line ends, so that the
+// body reads as the recipient's mail program shows it.
+QString Escaped(const std::string& s)
+{
+    return QString::fromStdString(s).replace("\r\n", "\n").replace('\r', '\n').toHtmlEscaped();
+}
+
+// The page the script sends the visitor to when it is one of the user's own
+// files: it is not part of the build, so a stand-in says where the visitor is.
+void WriteCompletedStandIn(const QString& site, const std::string& completed)
+{
+    const QString name = QString::fromStdString(completed).trimmed();
+    if (name.isEmpty() || name.contains("://") || name.contains('/') || name.contains('\\') || name.startsWith('.'))
+        return;
+    QFile page(site + "/" + name);
+    if (page.exists() || !page.open(QIODevice::WriteOnly))
+        return;
+    page.write(QString("<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>%1</title></head>"
+                       "<body style=\"font-family: sans-serif; margin: 40px; color: #333\">"
+                       "<h2>The form was sent</h2><p>On your web site the visitor now sees your page "
+                       "<b>%1</b>. It is not part of this local test.</p>"
+                       "<p>The mail the script sent is shown on the right.</p></body></html>")
+                   .arg(name.toHtmlEscaped())
+                   .toUtf8());
+}
+
+QString MailHtml(const shell::CapturedMail& m)
+{
+    QString html = "<h3 style='margin:0 0 6px 0'>" + Escaped(m.subject.empty() ? "(no subject)" : m.subject) + "</h3>";
+    html += "<p style='margin:0 0 8px 0'><b>To:</b> " + Escaped(m.to) + "</p>";
+    html += "<p style='margin:8px 0 2px 0; color:#555'><b>Headers</b></p><pre>";
+    for (const auto& h : m.headers)
+        html += Escaped(h) + "\n";
+    html += "</pre><p style='margin:8px 0 2px 0; color:#555'><b>Body</b></p><pre>" + Escaped(m.body) + "</pre>";
+    return html;
+}
+
+} // namespace
+
+LocalTestWindow::LocalTestWindow(QWidget* parent) : QWidget(parent, Qt::Window)
+{
+    setObjectName("LocalTestWindow");
+    setWindowTitle("Tarnquill - Test Locally");
+    resize(1280, 820);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+
+    auto* top = new QHBoxLayout;
+    m_address = new QLabel("Not serving");
+    m_address->setObjectName("LocalTestAddress");
+    m_address->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* reload = new QPushButton("Back to the Form");
+    reload->setObjectName("LocalTestReload");
+    auto* close = new QPushButton("Stop and Close");
+    close->setObjectName("LocalTestClose");
+    top->addWidget(m_address, 1);
+    top->addWidget(reload);
+    top->addWidget(close);
+    layout->addLayout(top);
+
+    auto* split = new QSplitter(Qt::Horizontal);
+    m_view = new QWebEngineView;
+    m_view->setObjectName("LocalTestView");
+    split->addWidget(m_view);
+
+    auto* panel = new QWidget;
+    panel->setObjectName("MailPanel");
+    auto* pl = new QVBoxLayout(panel);
+    pl->setContentsMargins(6, 0, 0, 0);
+    auto* head = new QLabel("Mails sent by the script");
+    head->setStyleSheet("font-weight: 700; font-size: 14px;");
+    auto* hint = new QLabel("Nothing leaves this computer: each mail the script sends is caught and listed here.");
+    hint->setWordWrap(true);
+    hint->setStyleSheet("color: #555;");
+    m_mails = new QListWidget;
+    m_mails->setObjectName("MailList");
+    m_details = new QTextBrowser;
+    m_details->setObjectName("MailDetails");
+    pl->addWidget(head);
+    pl->addWidget(hint);
+    pl->addWidget(m_mails, 1);
+    pl->addWidget(m_details, 3);
+    split->addWidget(panel);
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 2);
+    split->setSizes({760, 500});
+    m_mails->setWordWrap(true);
+    layout->addWidget(split, 1);
+
+    m_poll = new QTimer(this);
+    m_poll->setInterval(250);
+    connect(m_poll, &QTimer::timeout, this, &LocalTestWindow::pollMails);
+    connect(m_mails, &QListWidget::currentRowChanged, this, &LocalTestWindow::showMail);
+    connect(reload, &QPushButton::clicked, this, [this] {
+        if (!m_url.isEmpty())
+            m_view->load(QUrl(m_url));
+    });
+    connect(close, &QPushButton::clicked, this, [this] {
+        stop();
+        hide();
+    });
+}
+
+LocalTestWindow::~LocalTestWindow()
+{
+    stop();
+}
+
+bool LocalTestWindow::start(const Session& session, UiPort& ui)
+{
+    stop();
+    const QFileInfo given(phpProgram);
+    const QString php = given.isAbsolute() ? (given.isExecutable() ? phpProgram : QString())
+                                           : QStandardPaths::findExecutable(phpProgram);
+    if (php.isEmpty()) {
+        ui.message(shell::kNoPhpText, "PHP IS NOT INSTALLED", Icon::Information);
+        return false;
+    }
+
+    m_root = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/tarnquill-test-XXXXXX");
+    if (!m_root->isValid()) {
+        ui.message("A temporary folder for the local test could not be made: " + m_root->errorString().toStdString(),
+                   "TEST LOCALLY", Icon::Exclamation);
+        m_root.reset();
+        return false;
+    }
+    const QString site = m_root->filePath("site");
+    const QString mail = m_root->filePath("mail");
+    QDir().mkpath(site);
+    QDir().mkpath(mail);
+
+    // the project is built as it stands into the temporary site; the user's own output stays untouched
+    auto copy = std::make_unique<Session>();
+    copy->store = session.store;
+    copy->settings = session.settings;
+    copy->catalogue = session.catalogue;
+    copy->setup = session.setup;
+    copy->run = session.run;
+    copy->DataFolder = session.DataFolder;
+    bool found = false;
+    auto& setupText = copy->store.pages[0][0].AttributeText;
+    setupText = shell::PointProjectAt(setupText, site.toStdString(), found);
+    if (!found) {
+        ui.message("The SetupEntry holds no [DRIVE FOLDER PATH= to build into.", "TEST LOCALLY", Icon::Exclamation);
+        stop();
+        return false;
+    }
+    LocalBuildPort buildPort(ui);
+    build::CreateFormHTMLCode(*copy, buildPort);
+    const auto& b = copy->build;
+    if (b.buildError != 0 || b.setupHold || b.cancelled || b.endProgram || b.htmlPath.empty()) {
+        stop();
+        return false;
+    }
+
+    WriteCompletedStandIn(site, b.setupValues.COMPLETED);
+
+    const QString capture = m_root->filePath("mail-capture.sh");
+    QFile script(capture);
+    if (script.open(QIODevice::WriteOnly)) {
+        script.write(QByteArray::fromStdString(shell::MailCaptureScript(mail.toStdString())));
+        script.close();
+    }
+    script.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+
+    const int port = FreePort();
+    const QString address = QString("127.0.0.1:%1").arg(port);
+    QStringList args;
+    for (const auto& a : shell::LocalServerArgs(address.toStdString(), site.toStdString(), capture.toStdString()))
+        args << QString::fromStdString(a);
+    m_server = new QProcess(this);
+    m_server->setProcessChannelMode(QProcess::MergedChannels);
+    m_server->setStandardOutputFile(QProcess::nullDevice());
+    m_server->start(php, args);
+    bool ready = false;
+    ui.setBusy(true);
+    if (m_server->waitForStarted(5000)) {
+        QElapsedTimer waited;
+        waited.start();
+        while (!ready && waited.elapsed() < 5000 && m_server->state() == QProcess::Running) {
+            ready = Accepts(port);
+            if (!ready)
+                QThread::msleep(50);
+        }
+    }
+    ui.setBusy(false);
+    if (!ready) {
+        ui.message("PHP could not serve the form on " + address.toStdString() + ".", "TEST LOCALLY", Icon::Exclamation);
+        stop();
+        return false;
+    }
+
+    const QString page = QFileInfo(QString::fromStdString(b.htmlPath)).fileName();
+    m_url = "http://" + address + "/" + page;
+    m_address->setText("Serving <b>" + page.toHtmlEscaped() + "</b> at <a href='" + m_url + "'>" + m_url +
+                       "</a> &nbsp; (PHP on this computer, mails are caught)");
+    m_view->load(QUrl(m_url));
+    m_poll->start();
+    return true;
+}
+
+void LocalTestWindow::stop()
+{
+    if (m_poll)
+        m_poll->stop();
+    if (m_server) {
+        m_server->terminate();
+        if (!m_server->waitForFinished(3000)) {
+            m_server->kill();
+            m_server->waitForFinished(3000);
+        }
+        delete m_server;
+        m_server = nullptr;
+    }
+    m_root.reset();
+    m_url.clear();
+    m_seen.clear();
+    m_mailTexts.clear();
+    if (m_mails)
+        m_mails->clear();
+    if (m_details)
+        m_details->clear();
+    if (m_address)
+        m_address->setText("Not serving");
+}
+
+void LocalTestWindow::pollMails()
+{
+    if (!m_root)
+        return;
+    QDir dir(m_root->filePath("mail"));
+    const QStringList names = dir.entryList({"mail-*"}, QDir::Files, QDir::Name);
+    for (const QString& name : names) {
+        if (m_seen.contains(name))
+            continue;
+        QFile f(dir.filePath(name));
+        if (!f.open(QIODevice::ReadOnly))
+            continue;
+        m_seen.insert(name);
+        const QByteArray bytes = f.readAll();
+        const shell::CapturedMail m = shell::ParseCapturedMail(bytes.toStdString());
+        m_mailTexts << MailHtml(m);
+        auto* item =
+            new QListWidgetItem(QString("%1. %2\n    to %3")
+                                    .arg(m_mailTexts.size())
+                                    .arg(QString::fromStdString(m.subject.empty() ? "(no subject)" : m.subject))
+                                    .arg(QString::fromStdString(m.to)));
+        m_mails->addItem(item);
+        m_mails->setCurrentRow(m_mails->count() - 1);
+        emit mailArrived(m_mails->count());
+    }
+}
+
+void LocalTestWindow::showMail(int row)
+{
+    if (row >= 0 && row < m_mailTexts.size())
+        m_details->setHtml(m_mailTexts[row]);
+}
+
+} // namespace tq::gui
