@@ -118,6 +118,7 @@ int CmdNew(const std::vector<std::string>& args, std::ostream& out, std::ostream
     std::string mode;
     std::string file;
     bool replace = false;
+    bool usage = false;
     for (const auto& a : args) {
         if (a == "--replace")
             replace = true;
@@ -126,9 +127,9 @@ int CmdNew(const std::vector<std::string>& args, std::ostream& out, std::ostream
         else if (!mode.empty() && file.empty() && !a.empty() && a[0] != '-')
             file = a;
         else
-            mode = "?";
+            usage = true;
     }
-    if (mode.empty() || mode == "?" || file.empty()) {
+    if (usage || mode.empty() || file.empty()) {
         err << "usage: tarnquill-cli new form|survey FILE [--replace]\n";
         return 2;
     }
