@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "about_dialog.h"
 
-#include "port/platform.h"
 #include "port/ui_port.h"
+#include "shell/version_check.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,8 +25,7 @@ AboutDialog::AboutDialog(UiPort& ui, QWidget* parent) : QDialog(parent)
     auto* title = new QLabel(kProgramTitle);
     title->setObjectName("lblTitle");
     title->setStyleSheet("font-size: 22px; font-weight: 600;");
-    auto* version = new QLabel(
-        QString::fromUtf8(platform::kVersionText.data(), static_cast<qsizetype>(platform::kVersionText.size())));
+    auto* version = new QLabel(QString::fromStdString(shell::VersionLine()));
     version->setObjectName("lblVersion");
     auto* description = new QLabel("Composes web forms and surveys, and writes the HTML page and the PHP script "
                                    "that handles them.");

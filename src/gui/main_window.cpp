@@ -70,11 +70,7 @@ bool MainWindow::start()
     Session& s = m_session;
     // The fixed tool tips of the Setup page and the Pages come with their widgets.
     store::ClearSetupRows(s.setup);
-    // Row bookkeeping: every reference number starts as its row's ordinal.
-    for (int page = 0; page < model::kPageCount; ++page)
-        for (int row = 0; row < model::kRowsPerPage; ++row)
-            s.store.pages[static_cast<size_t>(page)][static_cast<size_t>(row)].ReferenceNumber =
-                std::to_string(page * model::kRowsPerPage + row + 1);
+    model::InitRowBookkeeping(s.store);
     for (auto* p : madePages())
         p->hidePreview();
     s.run.GlobalFont = "arial";

@@ -114,17 +114,13 @@ void MainWindow::resetEntryList()
 {
     // every row empty but the SetupEntry, which takes the SETUP text of the mode
     Session& s = m_session;
-    for (auto& page : s.store.pages)
-        for (auto& e : page) {
-            e.InputTypeName.clear();
-            e.AttributeText.clear();
-            e.highlight = model::Highlight::None;
-        }
+    model::ResetEntries(s.store);
+    model::ClearHighlights(s.store);
     model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
     auto& setup = s.store.pages[0][0];
     setup.InputTypeName = "Setup";
-    setup.AttributeText = model::NormalizeAttributeText(*m_port, s.catalogue.SetupTemplate);
-    store::RefreshRowEditFlags(s.store);
+    model::SetAttributeText(s.store, *m_port, 1, 0, s.catalogue.SetupTemplate);
+    model::RefreshEditMarkers(s.store);
 }
 
 } // namespace tq::gui
