@@ -61,7 +61,7 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     top->addLayout(status);
     layout->addLayout(top);
 
-    auto* split = new QSplitter(Qt::Horizontal);
+    auto* split = m_split = new QSplitter(Qt::Horizontal);
     split->setChildrenCollapsible(false);
     auto* left = new QWidget;
     auto* ll = new QVBoxLayout(left);
@@ -212,6 +212,11 @@ int CreatePage::selectedPickIndex() const
 
 void CreatePage::setPickList(const QStringList& names)
 {
+    QStringList shown;
+    for (int i = 0; i < m_pick->count(); ++i)
+        shown << m_pick->item(i)->text();
+    if (shown == names)
+        return;
     int keep = m_pick->currentRow();
     m_pick->clear();
     m_pick->addItems(names);
@@ -286,6 +291,13 @@ void CreatePage::showPreview(const QString& file)
         static_cast<QVBoxLayout*>(m_previewPane->layout())->insertWidget(0, m_web, 1);
     }
     m_web->setUrl(QUrl::fromLocalFile(file));
+    if (m_previewPane->isHidden()) {
+        // the rows keep the larger share beside the pane
+        const int total = m_split->width();
+        const int left = m_split->sizes().value(0);
+        const int pane = total * 2 / 5;
+        m_split->setSizes({left, total - left - pane, pane});
+    }
     m_previewPane->show();
     // arrow keys and Space go on from the pick list
     m_pick->setFocus();

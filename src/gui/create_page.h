@@ -11,6 +11,7 @@ class QPushButton;
 class QFrame;
 class QStackedLayout;
 class QWebEngineView;
+class QSplitter;
 
 namespace tq::model {
 struct EntryStore;
@@ -84,6 +85,7 @@ class CreatePage : public QWidget
     QPushButton* m_order = nullptr;
     QPushButton* m_clearAll = nullptr;
     QFrame* m_previewPane = nullptr;
+    QSplitter* m_split = nullptr;
     QWebEngineView* m_web = nullptr;
 };
 

@@ -52,6 +52,10 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
 
     m_port->onShowView = [this](View v) { showView(v); };
     m_port->onEntriesChanged = [this] { refreshAll(); };
+    m_port->onHidePreviews = [this] {
+        for (auto* p : madePages())
+            p->hidePreview();
+    };
     m_port->onSelectRow = [this](int page, int row) {
         if (page >= 1 && page <= model::kPageCount)
             createPage(page)->selectRow(row);
@@ -248,6 +252,7 @@ void MainWindow::registerCommands()
         showView(ViewOfPageNumber(m_currentPage));
     });
     registerFileCommands();
+    registerModeCommands();
     registerPageActions();
     registerBuildCommands();
     registerSetupCommands();
@@ -333,6 +338,7 @@ void MainWindow::refreshAll()
     for (auto* p : madePages()) {
         p->setCaptions(ToQ(st.pageCaptions[static_cast<size_t>(p->page() - 1)]), ToQ(st.modeLabel), ToQ(st.fileLabel),
                        ToQ(s.store.state.ProjectMode));
+        setPickList(p);
         p->refresh();
     }
     applyToolTips();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/editing.h"
+#include "model/mode_hooks.h"
 #include "port/ui_port.h"
 #include "session.h"
 #include "store/project_file.h"
@@ -94,6 +96,12 @@ class MainWindow : public QMainWindow
     QList<CreatePage*> madePages() const;
     void resetEntryList();
     store::ProjectHooks projectHooks();
+    model::EditContext editContext();
+    model::ModeHooks modeHooks();
+    void registerModeCommands();
+    void wireRowActions(CreatePage* p);
+    void followPickSelection(int pickIndex);
+    void quickPreview(int page, int pickIndex);
     void applyToolTips();
 
     Session m_session;

@@ -44,10 +44,4 @@ void MainWindow::registerFileCommands()
     registerCommand("RefreshSurveyHistory", [&] { store::RefreshSurveyList(s, ui); });
 }
 
-store::ProjectHooks MainWindow::projectHooks()
-{
-    store::ProjectHooks hooks;
-    return hooks;
-}
-
 } // namespace tq::gui

@@ -4,6 +4,7 @@
 #include "main_window.h"
 #include "model/attribute_text.h"
 #include "model/catalogue.h"
+#include "model/new_project.h"
 #include "pick_list.h"
 #include "qt_port.h"
 #include "store/project_file.h"
@@ -85,6 +86,7 @@ void MainWindow::wirePage(CreatePage* p)
         m_port->openEditPage(page, row, "");
         refreshAll();
     };
+    wireRowActions(p);
     setPickList(p);
 }
 
@@ -113,14 +115,11 @@ void MainWindow::applyToolTips()
 void MainWindow::resetEntryList()
 {
     // every row empty but the SetupEntry, which takes the SETUP text of the mode
-    Session& s = m_session;
-    model::ResetEntries(s.store);
-    model::ClearHighlights(s.store);
-    model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
-    auto& setup = s.store.pages[0][0];
-    setup.InputTypeName = "Setup";
-    model::SetAttributeText(s.store, *m_port, 1, 0, s.catalogue.SetupTemplate);
-    model::RefreshEditMarkers(s.store);
+    model::ResetEntries(m_session.store);
+    model::ClearHighlights(m_session.store);
+    auto c = editContext();
+    model::InitSetupRow(c);
+    model::RefreshEditMarkers(m_session.store);
 }
 
 } // namespace tq::gui

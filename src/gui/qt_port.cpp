@@ -176,6 +176,12 @@ void QtPort::selectRow(int page, int row)
         onSelectRow(page, row);
 }
 
+void QtPort::hidePreviews()
+{
+    if (onHidePreviews)
+        onHidePreviews();
+}
+
 void QtPort::entriesChanged()
 {
     if (onEntriesChanged)

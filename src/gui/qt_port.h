@@ -31,6 +31,7 @@ class QtPort : public UiPort
     void openEditPage(int page, int row, std::string_view selectKey) override;
     void selectRow(int page, int row) override;
     void entriesChanged() override;
+    void hidePreviews() override;
     std::optional<std::string> httpGet(std::string_view url, int timeoutMs) override;
     bool startProgram(std::string_view program,
                       const std::vector<std::string>& args,
@@ -43,6 +44,7 @@ class QtPort : public UiPort
     std::function<void(int, int, std::string)> onOpenEditPage;
     std::function<void(int, int)> onSelectRow;
     std::function<void()> onEntriesChanged;
+    std::function<void()> onHidePreviews;
 
   private:
     QWidget* m_parent;

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTest>
@@ -123,12 +124,19 @@ DialogScript& DialogScript::type(const QString& text)
 DialogScript& DialogScript::choose(const QString& path)
 {
     return then([path](QWidget* w) {
-        if (auto* dialog = qobject_cast<QFileDialog*>(w)) {
-            dialog->selectFile(path);
-            static_cast<QDialog*>(dialog)->accept(); // QFileDialog::accept is protected
-        } else if (auto* d = qobject_cast<QDialog*>(w)) {
-            d->reject();
+        auto* dialog = qobject_cast<QFileDialog*>(w);
+        if (!dialog) {
+            if (auto* d = qobject_cast<QDialog*>(w))
+                d->reject();
+            return;
         }
+        dialog->selectFile(path);
+        if (auto* name = dialog->findChild<QLineEdit*>("fileNameEdit"))
+            name->setText(path);
+        static_cast<QDialog*>(dialog)->accept(); // QFileDialog::accept is protected
+        // the directory may still be loading: take the name as it stands
+        if (dialog->isVisible())
+            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
     });
 }
 

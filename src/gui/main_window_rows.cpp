@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The row commands of the four Pages, the quick preview and the mode commands:
+// thin calls into the model's editing, reordering and new-project operations.
+#include "build/build_driver.h"
+#include "busy_cursor.h"
+#include "create_page.h"
+#include "main_window.h"
+#include "model/editing.h"
+#include "model/new_project.h"
+#include "model/reorder.h"
+#include "pick_list.h"
+#include "port/platform.h"
+#include "qt_port.h"
+#include "store/recent_history.h"
+
+namespace tq::gui {
+
+model::EditContext MainWindow::editContext()
+{
+    return model::EditContext{m_session.store, m_session.settings, m_session.catalogue, *m_port};
+}
+
+model::ModeHooks MainWindow::modeHooks()
+{
+    model::ModeHooks hooks;
+    hooks.busyMark = [this] { return m_session.run.busyMark; };
+    hooks.loadInProgress = [this] { return m_session.run.LoadInProgress; };
+    hooks.reloadHistoryMenus = [this](std::string_view mode) {
+        if (store::Upper(mode) == "SURVEY")
+            store::RefreshSurveyList(m_session, *m_port);
+        else
+            store::RefreshFormList(m_session, *m_port);
+    };
+    hooks.refreshStatus = [this] { store::RefreshStatus(m_session); };
+    return hooks;
+}
+
+store::ProjectHooks MainWindow::projectHooks()
+{
+    store::ProjectHooks hooks;
+    // the clear prompt of an open answers the AbortFlag: 1 when the user kept the rows
+    hooks.clearPrompt = [this](Session&, UiPort&) {
+        auto c = editContext();
+        return model::ClearAllRows(c, 1) ? 0 : 1;
+    };
+    hooks.switchMode = [this](Session&, UiPort&, const std::string& mode, int targetPage) {
+        auto c = editContext();
+        model::SwitchMode(c, modeHooks(), mode, targetPage, 1);
+    };
+    return hooks;
+}
+
+void MainWindow::registerModeCommands()
+{
+    // From the start page a new project opens Page 1; from a Page the view
+    // named by the mode switch of the Pages, the start page, is shown.
+    auto create = [this](const char* mode) {
+        auto c = editContext();
+        model::CreateNewProject(c, modeHooks(), mode, m_view == View::StartPage ? 2 : 1);
+        for (CreatePage* p : madePages())
+            p->hidePreview();
+    };
+    registerCommand("CreateNewForm", [create] { create("FORM"); });
+    registerCommand("CreateSurvey", [create] { create("SURVEY"); });
+
+    auto list = [this](const char* mode) {
+        const View from = m_view;
+        auto c = editContext();
+        if (!model::SwitchProjectList(c, modeHooks(), mode))
+            return;
+        for (CreatePage* p : madePages())
+            p->hidePreview();
+        if (from != View::StartPage)
+            return;
+        // the start page asks before it moves on
+        showView(View::StartPage);
+        if (m_port->ask("Do you want to switch to the edit screen?", "EDIT", Buttons::YesNo, Icon::Question, 1) ==
+            Answer::Yes)
+            showView(View::Page1);
+    };
+    registerCommand("FormList", [list] { list("FORM"); });
+    registerCommand("SurveyList", [list] { list("SURVEY"); });
+}
+
+void MainWindow::wireRowActions(CreatePage* p)
+{
+    p->onAdd = [this](int page, int pickIndex) {
+        auto c = editContext();
+        m_session.catalogue.PickListIndex = pickIndex;
+        model::AddToFirstFreeRow(c, page, pickIndex);
+        followPickSelection(pickIndex);
+    };
+    p->onDrop = [this](int page, int target, int source, int pickIndex) {
+        auto& state = m_session.store.state;
+        state.DragSource = source >= 0 ? 100 + source : 0;
+        auto c = editContext();
+        model::InsertAtRow(c, page, target, pickIndex);
+        state.DragSource = 0;
+        refreshAll();
+    };
+    p->onClear = [this](int page, int row) {
+        auto c = editContext();
+        model::ClearRow(c, page, row);
+        refreshAll();
+        createPage(page)->focusPickList();
+    };
+    p->onClearAll = [this](int) {
+        auto c = editContext();
+        model::ClearAllCommand(c);
+        refreshAll();
+    };
+    p->onOrder = [this](int) {
+        m_session.store.state.OrderPrompt = true;
+        model::ReorderEntries(m_session.store, *m_port);
+        refreshAll();
+    };
+    p->onNumberChanged = [this](int page, int row) {
+        model::FollowPartnerNumber(m_session.store, page, row);
+        refreshAll();
+    };
+    p->onQuickPreview = [this](int page, int pickIndex) { quickPreview(page, pickIndex); };
+    p->onEscape = [this](int page) {
+        m_session.store.state.QuickPreviewActive = false;
+        createPage(page)->hidePreview();
+    };
+}
+
+void MainWindow::followPickSelection(int pickIndex)
+{
+    refreshAll();
+    // the selection stays on the same index of the Page that was reached,
+    // so that Enter again adds the same Input Type
+    const int index = static_cast<int>(m_view) - static_cast<int>(View::Page1);
+    if (index < 0 || index >= model::kPageCount || pickIndex < 0)
+        return;
+    PickList* pick = createPage(index + 1)->pickList();
+    if (pickIndex < pick->count())
+        pick->setCurrentRow(pickIndex);
+    pick->setFocus();
+}
+
+void MainWindow::quickPreview(int page, int pickIndex)
+{
+    Session& s = m_session;
+    auto& state = s.store.state;
+    state.QuickPreviewActive = true;
+    s.build.buildError = 0;
+    if (pickIndex < 0 && !state.PreviewFromEdit) {
+        state.QuickPreviewActive = false;
+        return;
+    }
+    {
+        BusyCursor busy;
+        auto c = editContext();
+        // under QuickPreviewActive the add fills the preview slots, no row
+        if (model::AddToFirstFreeRow(c, page, pickIndex) || !state.PreviewSlots[0].InputTypeName.empty()) {
+            s.build.entryPreview = true;
+            s.build.wholePage = true;
+            build::BuildOutput(s, *m_port, 0);
+            s.build.entryPreview = false;
+            s.build.wholePage = false;
+        } else {
+            s.build.buildError = 1;
+        }
+    }
+    CreatePage* p = createPage(page);
+    if (s.build.buildError == 1) {
+        p->hidePreview();
+        state.QuickPreviewActive = false;
+        s.build.buildError = 0;
+        return;
+    }
+    p->showPreview(QString::fromStdString(platform::JoinPath(s.DataFolder, "\\Preview.htm")));
+    state.QuickPreviewActive = false;
+}
+
+} // namespace tq::gui

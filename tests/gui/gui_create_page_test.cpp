@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "create_page.h"
+#include "entry_table_model.h"
+#include "gui_test_support.h"
+#include "main_window.h"
+#include "pick_list.h"
+#include "start_page.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QWebEngineView>
+#include <QtTest>
+
+using namespace tq::gui;
+
+namespace {
+
+using Started = test::StartedWindow;
+
+void SelectType(CreatePage* page, const QString& name)
+{
+    const auto items = page->pickList()->findItems(name, Qt::MatchExactly);
+    QVERIFY2(!items.isEmpty(), qPrintable(name));
+    page->pickList()->setCurrentItem(items.first());
+}
+
+void CreateNew(MainWindow& w, const char* command)
+{
+    // a fresh start holds the SetupEntry only, so nothing is asked
+    test::DialogScript script;
+    QVERIFY(test::Trigger(&w, command));
+    QVERIFY2(script.seen.isEmpty(), qPrintable(script.seen.join(" | ")));
+}
+
+void DropRow(CreatePage* page, int source, int target)
+{
+    auto* model = page->model();
+    std::unique_ptr<QMimeData> mime(model->mimeData({model->index(source, EntryTableModel::ColType)}));
+    model->dropMimeData(mime.get(), Qt::CopyAction, -1, -1, model->index(target, EntryTableModel::ColType));
+}
+
+} // namespace
+
+class CreatePageTest : public QObject
+{
+    Q_OBJECT
+  private slots:
+    void newFormAndSurveyFillPageOne()
+    {
+        Started app;
+        MainWindow& w = *app.w;
+        CreateNew(w, "CreateNewForm");
+        QCOMPARE(w.currentView(), tq::View::Page1);
+        QCOMPARE(app.name(1, 0), QString("Setup"));
+        QCOMPARE(app.name(1, 3), QString("Name"));
+        QCOMPARE(app.name(1, 16), QString("Security Code"));
+        QVERIFY(app.name(1, 5).isEmpty());
+        auto* page = w.createPage(1);
+        QCOMPARE(page->findChild<QLabel*>("lblPageHeading")->text(), QString("Page 1 of 4     Create: Form"));
+        QCOMPARE(page->findChild<QAction*>("CreateFormOnly")->text(), QString("Build Form Only"));
+        QCOMPARE(page->pickList()->count(), 33);
+        // the SetupEntry has no Clear, an empty row no Edit
+        QVERIFY(!page->findChild<QPushButton*>("Clear0"));
+        QVERIFY(!page->findChild<QPushButton*>("Edit5")->isEnabled());
+        test::SaveScreenshot(&w, "page1_new_form");
+
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::Yes); // clear the entries of the form
+            QVERIFY(test::Trigger(&w, "CreateSurvey"));
+        }
+        QCOMPARE(QString::fromStdString(w.session().store.state.ProjectMode), QString("SURVEY"));
+        // from a Page the mode switch of a new project shows the start page
+        QCOMPARE(w.currentView(), tq::View::StartPage);
+        QVERIFY(test::Trigger(&w, "ViewFormSurvey"));
+        QCOMPARE(app.name(1, 2), QString("Survey Intro"));
+        QCOMPARE(page->pickList()->count(), 35);
+        QCOMPARE(page->findChild<QLabel*>("lblPageHeading")->text(), QString("Page 1 of 4     Create: Survey"));
+        QCOMPARE(w.startPage()->findChild<QLabel*>("lblActive")->text(), QString("SURVEY IS ACTIVE"));
+        test::SaveScreenshot(&w, "page1_new_survey");
+    }
+
+    void addByEnterAndDoubleClickAndAConditionMovesToPageTwo()
+    {
+        Started app;
+        MainWindow& w = *app.w;
+        CreateNew(w, "CreateNewForm");
+        auto* page = w.createPage(1);
+        SelectType(page, "Phone Number");
+        QTest::keyClick(page->pickList(), Qt::Key_Return);
+        QCOMPARE(app.name(1, 5), QString("Phone Number"));
+        QVERIFY(page->findChild<QPushButton*>("Edit5")->isEnabled());
+        // the selection stays, so Enter again adds the same type
+        QTest::keyClick(page->pickList(), Qt::Key_Return);
+        QCOMPARE(app.name(1, 6), QString("Phone Number"));
+
+        SelectType(page, "Picture");
+        const QPoint at = page->pickList()->visualItemRect(page->pickList()->currentItem()).center();
+        // the view takes a double click on the item that the press before it hit
+        QTest::mousePress(page->pickList()->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(page->pickList()->viewport(), Qt::LeftButton, {}, at);
+        QCOMPARE(app.name(1, 7), QString("Picture"));
+
+        // fill the Page up to row 23: a Condition no longer fits on row 24
+        for (int row = 8; row < 24; ++row)
+            if (app.name(1, row).isEmpty()) {
+                SelectType(page, "Blank Line");
+                QTest::keyClick(page->pickList(), Qt::Key_Return);
+            }
+        QVERIFY(app.name(1, 24).isEmpty());
+        SelectType(page, "Condition With Comment");
+        QTest::keyClick(page->pickList(), Qt::Key_Return);
+        QVERIFY(app.name(1, 24).isEmpty());
+        QCOMPARE(app.name(2, 0), QString("Condition With Comment"));
+        QCOMPARE(app.name(2, 1), QString("Followup With Comment"));
+        QCOMPARE(w.currentView(), tq::View::Page2);
+
+        // either half of a pair clears both
+        w.createPage(2)->findChild<QPushButton*>("Clear1")->click();
+        QVERIFY(app.name(2, 0).isEmpty());
+        QVERIFY(app.name(2, 1).isEmpty());
+
+        // Enter with nothing selected
+        page->pickList()->clearSelection();
+        test::DialogScript script;
+        script.press(QMessageBox::Ok);
+        QTest::keyClick(page->pickList(), Qt::Key_Return);
+        QCOMPARE(script.seen.size(), 1);
+        QVERIFY2(script.seen[0].endsWith("nothing selected"), qPrintable(script.seen[0]));
+    }
+
+    void dragARowOntoAnotherAndOrderRenumbers()
+    {
+        Started app;
+        MainWindow& w = *app.w;
+        CreateNew(w, "CreateNewForm");
+        auto* page = w.createPage(1);
+        // Email (row 4) dropped on Subject (row 2): copied there, the rest pushed down
+        DropRow(page, 4, 2);
+        QCOMPARE(app.name(1, 2), QString("Email"));
+        QCOMPARE(app.name(1, 3), QString("Subject"));
+        QCOMPARE(app.name(1, 4), QString("Name"));
+        QCOMPARE(app.name(1, 5), QString("Email"));
+        // Setup cannot be copied
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::Ok);
+            DropRow(page, 0, 6);
+            QCOMPARE(script.seen.size(), 1);
+            QVERIFY(script.seen[0].startsWith("CANNOT COPY SETUP"));
+        }
+
+        // Security Code, pushed down to row 17, goes first behind the Setup row
+        auto* model = page->model();
+        QCOMPARE(app.name(1, 17), QString("Security Code"));
+        QVERIFY(model->setData(model->index(17, EntryTableModel::ColNumber), "1", Qt::EditRole));
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::Yes).press(QMessageBox::Ok);
+            page->findChild<QPushButton*>("Order")->click();
+            QCOMPARE(script.seen.last(), QString("ORDER UPDATED: The Order has been updated"));
+        }
+        QCOMPARE(app.name(1, 1), QString("Security Code"));
+        QCOMPARE(app.name(1, 2), QString("Title 1 Single Line"));
+        for (int row = 0; row < 25; ++row)
+            QCOMPARE(QString::fromStdString(app.at(1, row).ReferenceNumber), QString::number(row + 1));
+    }
+
+    void saveClearAllOpenBringsTheRowsBack()
+    {
+        Started app;
+        MainWindow& w = *app.w;
+        CreateNew(w, "CreateNewForm");
+        auto* page = w.createPage(1);
+        auto names = [&app] {
+            QStringList list;
+            for (int row = 0; row < 25; ++row)
+                if (!app.name(1, row).isEmpty())
+                    list << app.name(1, row);
+            return list;
+        };
+        const QStringList saved = names();
+        QCOMPARE(saved.size(), 7);
+        const QString file = app.data + "/contact.fms";
+        {
+            test::DialogScript script;
+            script.choose(file);
+            QVERIFY(test::Trigger(&w, "SaveForm"));
+            QVERIFY(script.done());
+        }
+        QVERIFY(QFile::exists(file));
+        QCOMPARE(page->findChild<QLabel*>("lblFile")->text(), "FILE LOADED: " + file.toUpper());
+        QCOMPARE(w.startPage()->findChild<QAction*>("File1")->text(), "1. " + file);
+
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::Yes);
+            page->findChild<QPushButton*>("ClearAll")->click();
+        }
+        QCOMPARE(app.name(1, 0), QString("Setup"));
+        QVERIFY(app.name(1, 3).isEmpty());
+
+        {
+            test::DialogScript script;
+            script.choose(file);
+            QVERIFY(test::Trigger(&w, "openform"));
+            QVERIFY2(script.done(), qPrintable(script.seen.join(" | ")));
+        }
+        // the file holds the used rows one after another: they come back in order
+        QCOMPARE(names(), saved);
+        QCOMPARE(app.name(1, 3), QString("Name"));
+    }
+
+    void spaceShowsAQuickPreviewAndEscLeavesTheRowsAlone()
+    {
+        Started app;
+        MainWindow& w = *app.w;
+        CreateNew(w, "CreateNewForm");
+        auto* page = w.createPage(1);
+        // nothing selected: nothing happens
+        page->pickList()->clearSelection();
+        QTest::keyClick(page->pickList(), Qt::Key_Space);
+        QVERIFY(!page->previewVisible());
+
+        SelectType(page, "Question YesNo Required");
+        QTest::keyClick(page->pickList(), Qt::Key_Space);
+        auto* web = page->findChild<QWebEngineView*>("QuickPreview");
+        QVERIFY(web);
+        QSignalSpy loaded(web, &QWebEngineView::loadFinished);
+        QVERIFY(page->previewVisible());
+        QVERIFY(QFile::exists(app.data + "/Preview.htm"));
+        QVERIFY(app.name(1, 5).isEmpty());
+        QVERIFY(!w.session().store.state.QuickPreviewActive);
+        QVERIFY(loaded.wait(10000) || loaded.count() > 0);
+        QTest::qWait(200);
+        test::SaveScreenshot(&w, "page1_quick_preview");
+        QTest::keyClick(page->pickList(), Qt::Key_Escape);
+        QVERIFY(!page->previewVisible());
+        QVERIFY(app.name(1, 5).isEmpty());
+    }
+};
+
+QTEST_MAIN(CreatePageTest)
+#include "gui_create_page_test.moc"
