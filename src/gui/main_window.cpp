@@ -198,6 +198,8 @@ void MainWindow::showView(View v)
         createPage(static_cast<int>(v) - static_cast<int>(View::Page1) + 1);
     if (v == View::SetupPage)
         setupPage();
+    if (v == View::FinalPage && m_session.build.inProgress)
+        fillFinalPage(); // the end of a build: its instructions
     QWidget* page = m_views.value(v);
     if (v == View::FinalPage)
         m_buildFinished = true;
@@ -257,6 +259,7 @@ void MainWindow::registerCommands()
     registerBuildCommands();
     registerSetupCommands();
     InstallToolCommands(*this);
+    registerEditCommands();
 }
 
 void MainWindow::confirmExit()

@@ -23,6 +23,9 @@ class QtPort;
 class StartPage;
 class CreatePage;
 class SetupPage;
+class EditPage;
+class FinalPage;
+class PreviewWindow;
 
 /// The one window of the program: a stack of pages, one visible at a time,
 /// each with its own menu bar. It owns the session and runs the commands.
@@ -61,6 +64,10 @@ class MainWindow : public QMainWindow
     StartPage* startPage() const { return m_start; }
     /// The Setup page, made on first use.
     SetupPage* setupPage();
+    /// The edit page, the final page and the preview window, made on first use.
+    EditPage* editPage();
+    FinalPage* finalPage();
+    PreviewWindow* previewWindow();
     /// The page number of a view as the way back counts it: 1 the start page,
     /// 2 to 5 the four Pages, 9 the final page, 10 the edit page, 11 the edit window.
     static int PageNumberOf(View v);
@@ -83,6 +90,10 @@ class MainWindow : public QMainWindow
     void registerPageActions();
     void registerBuildCommands();
     void registerSetupCommands();
+    void registerEditCommands();
+    void openEntryEditPage(int page, int row, const std::string& selectKey);
+    void fillFinalPage();
+    void showWholePagePreview();
     void confirmExit();
     void runBuild(bool wholePage);
     void endProgram();
@@ -109,6 +120,9 @@ class MainWindow : public QMainWindow
     QStackedWidget* m_stack = nullptr;
     StartPage* m_start = nullptr;
     SetupPage* m_setup = nullptr;
+    EditPage* m_edit = nullptr;
+    FinalPage* m_final = nullptr;
+    PreviewWindow* m_preview = nullptr;
     std::array<CreatePage*, 4> m_pages{};
     QMap<View, QWidget*> m_views;
     QHash<QString, std::function<void()>> m_commands;

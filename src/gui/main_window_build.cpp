@@ -42,10 +42,13 @@ void MainWindow::runBuild(bool wholePage)
         BusyCursor busy;
         warning = shell::CheckPublishedScript(s.build, *m_port).warning;
     }
-    // The final page comes later; until then the user learns where the files went.
-    m_port->message("Your files have been created:\r\r" + s.build.htmlPath + "\r" + s.build.phpPath +
-                        (warning.empty() ? std::string() : "\r\r" + warning),
-                    "BUILD COMPLETE", Icon::Information);
+    // the final page tells where the files went; only a warning comes as a box
+    if (!warning.empty())
+        m_port->message("Your files have been created:\r\r" + s.build.htmlPath + "\r" + s.build.phpPath + "\r\r" +
+                            warning,
+                        "BUILD COMPLETE", Icon::Information);
+    if (wholePage)
+        showWholePagePreview();
 }
 
 } // namespace tq::gui

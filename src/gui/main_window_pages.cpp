@@ -24,25 +24,6 @@ QString ToQ(const std::string& s)
     return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
 }
 
-// Until the edit page is part of the program, an Entry is shown read-only.
-void ShowEntryText(QWidget* parent, const model::Entry& e, int page, int row)
-{
-    QDialog box(parent);
-    box.setObjectName("EntryTextView");
-    box.setWindowTitle(QString("Page %1, row %2: %3").arg(page).arg(row).arg(ToQ(e.InputTypeName)));
-    auto* layout = new QVBoxLayout(&box);
-    auto* text = new QPlainTextEdit(ToQ(e.AttributeText));
-    text->setReadOnly(true);
-    text->setLineWrapMode(QPlainTextEdit::WidgetWidth);
-    layout->addWidget(new QLabel(ToQ(e.InputTypeName)));
-    layout->addWidget(text, 1);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
-    layout->addWidget(buttons);
-    box.resize(640, 420);
-    box.exec();
-}
-
 } // namespace
 
 void MainWindow::registerPageActions()
@@ -58,13 +39,8 @@ void MainWindow::registerPageActions()
     registerCommand("NextPage", [step] { step(1); });
     registerCommand("PreviousPage", [step] { step(-1); });
 
-    m_port->onOpenEditPage = [this](int page, int row, const std::string&) {
-        if (page < 1 || page > model::kPageCount || row < 0 || row >= model::kRowsPerPage)
-            return;
-        showView(static_cast<View>(static_cast<int>(View::Page1) + page - 1));
-        refreshAll();
-        createPage(page)->selectRow(row);
-        ShowEntryText(this, m_session.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)], page, row);
+    m_port->onOpenEditPage = [this](int page, int row, const std::string& selectKey) {
+        openEntryEditPage(page, row, selectKey);
     };
 }
 

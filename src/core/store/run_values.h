@@ -42,6 +42,7 @@ struct RunValues
     std::string LastProjectPath;    // the file name of the last Open
     int busyMark = kIdle;           // 0 idle, 1 loading, 222 saving
     bool LoadInProgress = false;    // from the open dialog to the end of a load
+    int previewCaller = 0;          // 9: the preview window was opened from the final page
 
     // Run defaults that the start and a restore of defaults set.
     std::string GlobalFont = "arial";

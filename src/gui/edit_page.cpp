@@ -1,0 +1,367 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "edit_page.h"
+
+#include "busy_cursor.h"
+#include "edit_window.h"
+#include "model/internal_error.h"
+#include "model/text_ops.h"
+#include "session.h"
+#include "shell/preview.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStringListModel>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+namespace tq::gui {
+
+namespace {
+
+QString ToQ(const std::string& s)
+{
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+std::string FromQ(const QString& s)
+{
+    return s.toUtf8().toStdString();
+}
+
+/// A colour of the core (red in the low byte) as a Qt colour.
+QColor ToColor(long c)
+{
+    return QColor(static_cast<int>(c & 0xff), static_cast<int>((c >> 8) & 0xff), static_cast<int>((c >> 16) & 0xff));
+}
+
+bool IsPullDown(shell::FieldKind k)
+{
+    return k == shell::FieldKind::NumberList || k == shell::FieldKind::AlignList || k == shell::FieldKind::LoopList ||
+           k == shell::FieldKind::OnOffList || k == shell::FieldKind::YesNoList;
+}
+
+} // namespace
+
+EditPage::EditPage(Session& session, UiPort& ui, QWidget* parent) : QWidget(parent), m_session(session), m_ui(ui)
+{
+    setObjectName("EditPage");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 8, 12, 8);
+
+    auto* bar = new QMenuBar(this);
+    bar->setObjectName("MenuBar");
+    bar->setNativeMenuBar(false);
+    auto add = [&](const QString& name, const QString& caption, auto slot) {
+        QAction* a = bar->addAction(caption);
+        a->setObjectName(name);
+        connect(a, &QAction::triggered, this, slot);
+        return a;
+    };
+    add("Abort", "&Abort", [this] { abortPage(); });
+    add("Preview", "&Preview", [this] { previewPage(); });
+    m_exitPreview = add("ExitPreview", "Exit Pre&view", [this] { exitPreview(); });
+    m_exitPreview->setVisible(false);
+    add("Exit", "E&xit", [this] { exitPage(); });
+    add("HelpPage", "&Help", [this] { shell::ShowPageHelp(m_ui, m_state); });
+    layout->setMenuBar(bar);
+
+    m_caption = new QLabel;
+    m_caption->setObjectName("lblEditCaption");
+    m_caption->setStyleSheet("font-size: 16px; font-weight: 600; color: #1f4e79;");
+    layout->addWidget(m_caption);
+
+    m_scroll = new QScrollArea;
+    m_scroll->setWidgetResizable(true);
+    m_rowsHost = new QWidget;
+    m_grid = new QGridLayout(m_rowsHost);
+    m_grid->setColumnStretch(1, 1);
+    m_grid->setHorizontalSpacing(10);
+    m_grid->setVerticalSpacing(4);
+    m_scroll->setWidget(m_rowsHost);
+    layout->addWidget(m_scroll, 1);
+
+    m_window = new EditWindow(this);
+    m_window->hide();
+    m_window->onExit = [this](const QString& text) {
+        const int row = m_window->row();
+        auto& f = m_state.fields[static_cast<size_t>(row)];
+        f.Value = shell::WindowToValue(f.Key, FromQ(text));
+        paintRow(row);
+        m_window->hide();
+        m_scroll->show();
+    };
+    m_window->onPreview = [this](const QString& text) {
+        const int row = m_window->row();
+        readValues();
+        BusyCursor busy;
+        const std::string file = shell::PreviewAttribute(m_session, m_ui, m_state, row, FromQ(text));
+        paintRow(row);
+        if (!file.empty())
+            m_window->showPreview(ToQ(file));
+    };
+    layout->addWidget(m_window, 1);
+}
+
+void EditPage::open(int page, int row, const QString& selectKey)
+{
+    try {
+        m_state = shell::OpenEditPage(m_session, m_ui, page, row);
+    } catch (const model::InternalError& e) {
+        m_ui.message(e.what(), "INTERNAL ERROR", Icon::Critical);
+        return;
+    }
+    m_caption->setText(ToQ(m_state.Caption));
+    exitPreview();
+    m_window->hide();
+    buildRows();
+    const int selected = selectKey.isEmpty() ? -1 : rowOf(selectKey);
+    if (selected >= 0) {
+        // the build sent the user here: the row at fault is shown coloured
+        m_state.failedRow = selected;
+        markFailedRow();
+    }
+}
+
+int EditPage::rowOf(const QString& key) const
+{
+    for (size_t i = 0; i < m_state.fields.size(); ++i)
+        if (ToQ(m_state.fields[i].Key).trimmed().compare(key.trimmed(), Qt::CaseInsensitive) == 0)
+            return static_cast<int>(i);
+    return -1;
+}
+
+QWidget* EditPage::valueWidget(int row) const
+{
+    return m_values.value(row);
+}
+
+void EditPage::buildRows()
+{
+    for (auto& widgets : m_rowWidgets)
+        for (QWidget* w : widgets)
+            delete w;
+    m_rowWidgets.clear();
+    m_values.clear();
+    for (size_t i = 0; i < m_state.fields.size(); ++i) {
+        const int row = static_cast<int>(i);
+        const auto& f = m_state.fields[i];
+        QList<QWidget*> widgets;
+        auto* label = new QLabel(ToQ(f.Key).trimmed().toUpper());
+        label->setObjectName(QString("lblKey%1").arg(row));
+        label->setStyleSheet("font-weight: 600;");
+        m_grid->addWidget(label, row, 0);
+        widgets << label;
+
+        QWidget* value = nullptr;
+        QPushButton* action = nullptr;
+        if (IsPullDown(f.Kind)) {
+            auto* combo = new QComboBox;
+            const std::vector<std::string> items = shell::PullDownItems(f);
+            const QString listKey = ToQ(items.front() + "|" + items.back() + "|" + std::to_string(items.size()));
+            QStringListModel*& list = m_lists[listKey];
+            if (!list) {
+                QStringList texts;
+                texts.reserve(static_cast<qsizetype>(items.size()));
+                for (const auto& item : items)
+                    texts << ToQ(item);
+                list = new QStringListModel(texts, this);
+            }
+            const QString current = ToQ(std::string(model::Trim(f.Value)));
+            int found = static_cast<int>(list->stringList().indexOf(current));
+            for (int i = 0; found < 0 && i < list->rowCount(); ++i)
+                if (list->stringList().at(i).compare(current, Qt::CaseInsensitive) == 0)
+                    found = i;
+            if (found >= 0) {
+                combo->setModel(list);
+                combo->setCurrentIndex(found);
+            } else {
+                // a value outside the list is shown as it stands, on a list of its own
+                QStringList own = list->stringList();
+                own.prepend(ToQ(f.Value));
+                combo->addItems(own);
+                combo->setCurrentIndex(0);
+            }
+            if (!f.helpChoices.empty()) {
+                QStringList choices;
+                for (const auto& c : f.helpChoices)
+                    choices << ToQ(c);
+                combo->setToolTip(choices.join(", "));
+            }
+            connect(combo, &QComboBox::currentTextChanged, this, [this, row](const QString& text) {
+                shell::SetPullDownValue(m_session, m_ui, m_state, row, FromQ(text));
+                for (int r = 0; r < m_rowWidgets.size(); ++r)
+                    for (QWidget* w : m_rowWidgets[r])
+                        w->setVisible(m_state.fields[static_cast<size_t>(r)].visible);
+            });
+            value = combo;
+        } else {
+            auto* edit = new QLineEdit(ToQ(f.Value));
+            value = edit;
+            if (f.Kind == shell::FieldKind::ColorField) {
+                edit->setReadOnly(true);
+                action = new QPushButton("Change Color");
+                action->setObjectName(QString("ChangeColor%1").arg(row));
+                action->setContextMenuPolicy(Qt::CustomContextMenu);
+                connect(action, &QPushButton::clicked, this, [this, row] {
+                    readValues();
+                    if (shell::ChangeColor(m_session, m_ui, m_state, row))
+                        paintRow(row);
+                });
+                // the right click clears GLOBAL TEXT COLOR
+                connect(action, &QPushButton::customContextMenuRequested, this, [this, row] {
+                    shell::ClearGlobalTextColor(m_session, m_ui, m_state, row);
+                    paintRow(row);
+                });
+            } else {
+                action = new QPushButton("Edit");
+                action->setObjectName(QString("Edit%1").arg(row));
+                connect(action, &QPushButton::clicked, this, [this, row] {
+                    readValues();
+                    if (shell::EditTextField(m_session, m_ui, m_state, row) == shell::EditAction::OpenEditWindow)
+                        openEditWindow(row);
+                    paintRow(row);
+                });
+            }
+        }
+        value->setObjectName(QString("txtValue%1").arg(row));
+        m_grid->addWidget(value, row, 1);
+        widgets << value;
+        m_values << value;
+        if (action) {
+            m_grid->addWidget(action, row, 2);
+            widgets << action;
+        }
+        auto* help = new QPushButton("Help");
+        help->setObjectName(QString("Help%1").arg(row));
+        help->setStyleSheet("background-color: #2e8b57; color: white;");
+        connect(help, &QPushButton::clicked, this,
+                [this, row] { shell::ShowFieldHelp(m_ui, m_state.fields[static_cast<size_t>(row)]); });
+        m_grid->addWidget(help, row, 3);
+        widgets << help;
+        m_rowWidgets << widgets;
+        for (QWidget* w : widgets)
+            w->setVisible(f.visible);
+        paintRow(row);
+    }
+    m_grid->setRowStretch(static_cast<int>(m_state.fields.size()), 1);
+}
+
+void EditPage::paintRow(int row)
+{
+    const auto& f = m_state.fields[static_cast<size_t>(row)];
+    QWidget* w = m_values.value(row);
+    if (!w)
+        return;
+    if (auto* edit = qobject_cast<QLineEdit*>(w)) {
+        if (edit->text() != ToQ(f.Value))
+            edit->setText(ToQ(f.Value));
+        if (f.Kind == shell::FieldKind::ColorField) {
+            const QColor c = ToColor(shell::FieldColor(f));
+            const QColor text = c.lightness() < 128 ? Qt::white : Qt::black;
+            edit->setStyleSheet(QString("QLineEdit { background-color: %1; color: %2; }").arg(c.name(), text.name()));
+            return;
+        }
+    }
+    w->setStyleSheet(f.failed ? "background-color: #ff0000; color: #ffffff;" : "");
+}
+
+void EditPage::readValues()
+{
+    for (int row = 0; row < m_values.size(); ++row) {
+        auto& f = m_state.fields[static_cast<size_t>(row)];
+        if (auto* edit = qobject_cast<QLineEdit*>(m_values[row]))
+            f.Value = FromQ(edit->text());
+        else if (auto* combo = qobject_cast<QComboBox*>(m_values[row]))
+            f.Value = FromQ(combo->currentText());
+    }
+}
+
+void EditPage::markFailedRow()
+{
+    const int row = m_state.failedRow;
+    if (row < 0 || row >= m_values.size())
+        return;
+    m_state.fields[static_cast<size_t>(row)].failed = true;
+    for (int r = 0; r < m_values.size(); ++r)
+        paintRow(r);
+    QWidget* w = m_values[row];
+    m_scroll->ensureWidgetVisible(w);
+    w->setFocus();
+    if (auto* edit = qobject_cast<QLineEdit*>(w))
+        edit->selectAll();
+    else if (auto* combo = qobject_cast<QComboBox*>(w); combo && combo->lineEdit())
+        combo->lineEdit()->selectAll();
+}
+
+void EditPage::exitPage()
+{
+    readValues();
+    if (!shell::ExitEditPage(m_session, m_ui, m_state)) {
+        markFailedRow();
+        return;
+    }
+    if (onLeft)
+        onLeft();
+}
+
+void EditPage::abortPage()
+{
+    readValues();
+    if (shell::AbortEditPage(m_session, m_ui, m_state) && onLeft)
+        onLeft();
+}
+
+void EditPage::previewPage()
+{
+    readValues();
+    std::string file;
+    {
+        BusyCursor busy;
+        file = shell::PreviewEntry(m_session, m_ui, m_state);
+    }
+    for (int r = 0; r < m_values.size(); ++r)
+        paintRow(r);
+    if (!file.empty())
+        showBrowser(ToQ(file));
+}
+
+void EditPage::showBrowser(const QString& file)
+{
+    if (!m_web) {
+        m_web = new QWebEngineView;
+        m_web->setObjectName("EditPreview");
+        static_cast<QVBoxLayout*>(layout())->addWidget(m_web, 1);
+    }
+    m_web->setUrl(QUrl::fromLocalFile(file));
+    m_scroll->hide();
+    m_window->hide();
+    m_web->show();
+    m_exitPreview->setVisible(true);
+}
+
+void EditPage::exitPreview()
+{
+    if (m_web)
+        m_web->hide();
+    m_exitPreview->setVisible(false);
+    if (m_window->isHidden())
+        m_scroll->show();
+}
+
+void EditPage::openEditWindow(int row)
+{
+    const auto& f = m_state.fields[static_cast<size_t>(row)];
+    m_window->open(row, ToQ(f.Key).trimmed().toUpper(), ToQ(shell::ValueToWindow(f.Key, f.Value)),
+                   m_session.store.state.ProjectMode == "SURVEY");
+    m_scroll->hide();
+    if (m_web)
+        m_web->hide();
+    m_window->show();
+}
+
+} // namespace tq::gui

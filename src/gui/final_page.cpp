@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "final_page.h"
+
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tq::gui {
+
+namespace {
+
+QString ToQ(const std::string& s)
+{
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption)
+{
+    QMenu* m = bar->addMenu(caption);
+    m->setObjectName(name);
+    m->menuAction()->setObjectName(name + "Menu");
+    return m;
+}
+
+QAction* AddBarCommand(QMenuBar* bar, const QString& name, const QString& caption, const CommandHandler& h)
+{
+    QAction* a = bar->addAction(caption);
+    a->setObjectName(name);
+    QObject::connect(a, &QAction::triggered, bar, [h, name] { h(name); });
+    return a;
+}
+
+} // namespace
+
+FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent) : QWidget(parent), m_ui(ui)
+{
+    setObjectName("FinalPage");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 8, 12, 8);
+
+    // the page's own commands; the shared ones go to the window
+    const CommandHandler h = [this, handler](const QString& name) {
+        if (name == "EditMenu")
+            handler("ViewFormSurvey");
+        else if (name == "MainMenu")
+            handler("Main");
+        else if (name == "ViewFolder")
+            m_ui.openTarget(m_folder.toUtf8().toStdString());
+        else
+            handler(name);
+    };
+    auto* bar = new QMenuBar(this);
+    bar->setObjectName("MenuBar");
+    bar->setNativeMenuBar(false);
+    QMenu* file = AddMenu(bar, "File", "&File");
+    AddCommand(file, "SaveForm", "Save Form", h);
+    AddCommand(file, "SaveSurvey", "Save Survey", h);
+    QMenu* build = AddMenu(bar, "createhtmphp", "&Build HTM-PHP");
+    AddCommand(build, "CreateFormOnly", "Create Form Only", h);
+    AddCommand(build, "CreateFormHTMLCode", "Create Form with HTML Code", h);
+    AddBarCommand(bar, "FTP", "FTP", h);
+    QMenu* web = AddMenu(bar, "WebEditor", "W&eb-Editor");
+    for (int i = 1; i <= 15; ++i)
+        AddCommand(web, QString("Web%1").arg(i), "Not Assigned", h);
+    AddBarCommand(bar, "EditMenu", "&Edit", h);
+    AddBarCommand(bar, "ViewFolder", "View-F&older", h);
+    QMenu* live = AddMenu(bar, "PreviewLive", "&View-Website");
+    for (int i = 1; i <= 15; ++i)
+        AddCommand(live, QString("LivePreview%1").arg(i), "Not Assigned", h);
+    AddBarCommand(bar, "SetupPage", "&Setup", h)->setObjectName("Setup");
+    AddBarCommand(bar, "MainMenu", "&Main", h);
+    AddBarCommand(bar, "Exit", "E&xit", h);
+    layout->setMenuBar(bar);
+
+    m_title = new QLabel;
+    m_title->setObjectName("lblTitle");
+    m_title->setStyleSheet("font-size: 17px; font-weight: 700; color: #1f4e79;");
+    layout->addWidget(m_title);
+
+    auto* grid = new QGridLayout;
+    auto* heading = new QLabel("OUTPUT HTML CODE CREATED BY TARNQUILL");
+    heading->setObjectName("lblCodeHeading");
+    heading->setStyleSheet("font-weight: 600;");
+    m_code = new QPlainTextEdit;
+    m_code->setObjectName("txtCode");
+    m_code->setReadOnly(true);
+    m_code->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_code->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_copy = new QPushButton("COPY OUTPUT TARNQUILL HTML CODE TO THE CLIPBOARD");
+    m_copy->setObjectName("CopyCode");
+    auto* preview = new QPushButton("PREVIEW FULL SCREEN");
+    preview->setObjectName("PreviewFullScreen");
+    auto* codeCol = new QVBoxLayout;
+    codeCol->addWidget(heading);
+    codeCol->addWidget(m_code, 1);
+    auto* codeButtons = new QHBoxLayout;
+    codeButtons->addWidget(m_copy);
+    codeButtons->addWidget(preview);
+    codeCol->addLayout(codeButtons);
+    grid->addLayout(codeCol, 0, 0, 2, 1);
+
+    auto* ftp = new QLabel(" FTP THE TARNQUILL OUTPUT FILE(S) BELOW TO YOUR WEB SITE");
+    ftp->setObjectName("lblFtp");
+    ftp->setStyleSheet("font-weight: 600;");
+    m_uploadLabel = new QLabel;
+    m_uploadLabel->setObjectName("lblUpload");
+    m_uploads = new QListWidget;
+    m_uploads->setObjectName("lstUploads");
+    m_uploads->setMaximumHeight(90);
+    m_instructions = new QPlainTextEdit;
+    m_instructions->setObjectName("txtInstructions");
+    m_instructions->setReadOnly(true);
+    m_instructions->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    auto* side = new QVBoxLayout;
+    side->addWidget(ftp);
+    side->addWidget(m_uploadLabel);
+    side->addWidget(m_uploads);
+    side->addWidget(m_instructions, 1);
+    grid->addLayout(side, 0, 1, 2, 1);
+    grid->setColumnStretch(0, 3);
+    grid->setColumnStretch(1, 2);
+    layout->addLayout(grid, 1);
+
+    connect(m_copy, &QPushButton::clicked, this, [this] { shell::CopyCodeToClipboard(m_ui, m_codeText); });
+    connect(preview, &QPushButton::clicked, this, [this] {
+        if (onPreviewFullScreen)
+            onPreviewFullScreen();
+    });
+}
+
+void FinalPage::fill(const shell::FinalPageText& text, const QString& outputFolder)
+{
+    m_folder = outputFolder;
+    m_codeText = text.code;
+    m_title->setText(ToQ(text.title));
+    m_copy->setText(ToQ(text.buttonCaption));
+    m_uploadLabel->setText(ToQ(text.uploadLabel));
+    m_uploads->clear();
+    for (const auto& f : text.uploads)
+        m_uploads->addItem(ToQ(f));
+    m_instructions->setPlainText(ToQ(text.instructions).replace("\r\n", "\n"));
+    m_code->setPlainText(ToQ(text.code).replace("\r\n", "\n"));
+}
+
+} // namespace tq::gui

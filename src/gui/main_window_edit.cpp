@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The edit page, the final page and the preview window in the window's stack.
+#include "create_page.h"
+#include "edit_page.h"
+#include "final_page.h"
+#include "main_window.h"
+#include "preview_window.h"
+#include "qt_port.h"
+#include "shell/instructions.h"
+
+#include <QTimer>
+
+namespace tq::gui {
+
+namespace {
+
+QString ToQ(const std::string& s)
+{
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+} // namespace
+
+EditPage* MainWindow::editPage()
+{
+    if (!m_edit) {
+        m_edit = new EditPage(m_session, *m_port);
+        m_edit->onLeft = [this] { refreshAll(); };
+        registerPage(View::EditPage, m_edit);
+    }
+    return m_edit;
+}
+
+FinalPage* MainWindow::finalPage()
+{
+    if (!m_final) {
+        m_final = new FinalPage(*m_port, [this](const QString& name) { runCommand(name); });
+        m_final->onPreviewFullScreen = [this] {
+            m_session.run.previewCaller = 9;
+            previewWindow()->showFile(ToQ(m_session.build.htmlPath));
+            showView(View::Preview);
+        };
+        registerPage(View::FinalPage, m_final);
+    }
+    return m_final;
+}
+
+PreviewWindow* MainWindow::previewWindow()
+{
+    if (!m_preview) {
+        m_preview = new PreviewWindow;
+        m_preview->onExit = [this] {
+            auto& caller = m_session.run.previewCaller;
+            if (caller != 9) {
+                showView(View::Page1);
+                createPage(1)->focusFirstRow();
+            } else {
+                showView(View::FinalPage);
+            }
+            caller = 0;
+        };
+        registerPage(View::Preview, m_preview);
+    }
+    return m_preview;
+}
+
+void MainWindow::registerEditCommands()
+{
+    // The browser engine starts once the window is up, so that the first
+    // preview does not wait for it and the start page does not either.
+    QTimer::singleShot(200, this, [this] { previewWindow(); });
+}
+
+void MainWindow::openEntryEditPage(int page, int row, const std::string& selectKey)
+{
+    if (page < 1 || page > model::kPageCount || row < 0 || row >= model::kRowsPerPage)
+        return;
+    m_session.store.state.EditPage = page;
+    m_session.store.state.EditRow = row;
+    editPage()->open(page, row, ToQ(selectKey));
+    refreshAll();
+}
+
+void MainWindow::fillFinalPage()
+{
+    const shell::FinalPageText text = shell::ShowInstructions(m_session, *m_port);
+    QString folder = ToQ(m_session.build.setupValues.WebFolder);
+    while (folder.endsWith('/') || folder.endsWith('\\'))
+        folder.chop(1);
+    finalPage()->fill(text, folder);
+}
+
+void MainWindow::showWholePagePreview()
+{
+    // the build ended on the final page: Exit of the preview goes back there
+    m_session.run.previewCaller = 9;
+    previewWindow()->showFile(ToQ(m_session.build.htmlPath));
+    showView(View::Preview);
+}
+
+} // namespace tq::gui

@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The edit page, the edit window, the previews and the final page, driven by
+// mouse through their object names.
+#include "create_page.h"
+#include "edit_page.h"
+#include "edit_window.h"
+#include "entry_table_model.h"
+#include "final_page.h"
+#include "gui_test_support.h"
+#include "main_window.h"
+#include "model/attribute_text.h"
+#include "model/catalogue.h"
+#include "preview_window.h"
+#include "shell/quiet_port.h"
+#include "store/project_file.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QWebEngineView>
+#include <QtTest>
+
+using namespace tq::gui;
+
+namespace {
+
+// Puts `type` with its default text, in the stored form, into a row.
+void PutRow(MainWindow& w, int page, int row, const std::string& type)
+{
+    auto& s = w.session();
+    auto& e = s.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
+    tq::shell::QuietPort quiet;
+    e.InputTypeName = type;
+    e.AttributeText = tq::model::NormalizeAttributeText(
+        quiet, tq::model::DefaultTemplateFor(s.catalogue, type, s.store.state.ProjectMode));
+    tq::store::RefreshRowEditFlags(s.store);
+    w.refreshAll();
+}
+
+// Points the SetupEntry at a fresh web folder and removes the sample marks.
+QString UseWebFolder(tq::gui::test::StartedWindow& app)
+{
+    const QString web = app.docs.filePath("web");
+    QDir().mkpath(web);
+    auto& setup = app.w->session().store.pages[0][0].AttributeText;
+    const auto at = setup.find("c:\\users");
+    if (at != std::string::npos)
+        setup.replace(at, 8, web.toStdString());
+    for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
+        setup.erase(mark + 1, 1);
+    return web;
+}
+
+EditPage* OpenEdit(MainWindow& w, int page, int row)
+{
+    w.showView(static_cast<tq::View>(static_cast<int>(tq::View::Page1) + page - 1));
+    w.createPage(page)->findChild<QPushButton*>(QString("Edit%1").arg(row))->click();
+    return w.editPage();
+}
+
+bool WaitLoaded(QWebEngineView* web)
+{
+    QSignalSpy spy(web, &QWebEngineView::loadFinished);
+    return spy.wait(15000) && spy.takeFirst().at(0).toBool();
+}
+
+} // namespace
+
+class EditPageTest : public QObject
+{
+    Q_OBJECT
+  private slots:
+    void aTitleEditedInTheEditWindowShowsOnTheCreatePage()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        PutRow(w, 1, 1, "Name");
+        EditPage* edit = OpenEdit(w, 1, 1);
+        QCOMPARE(w.currentView(), tq::View::EditPage);
+        QCOMPARE(edit->findChild<QLabel*>("lblEditCaption")->text(),
+                 QString("Make your changes for Name and then select Exit"));
+        test::SaveScreenshot(&w, "edit_page_name");
+        const int title = edit->rowOf("Title");
+        edit->findChild<QPushButton*>(QString("Edit%1").arg(title))->click();
+        auto* window = edit->editWindow();
+        QVERIFY(window->isVisible());
+        QCOMPARE(window->editor()->toPlainText(), QString("Enter your full name"));
+        window->editor()->setPlainText("Your full name\nplease");
+        test::SaveScreenshot(&w, "edit_window");
+        window->findChild<QPushButton*>("ExitEditWindow")->click();
+        QVERIFY(!window->isVisible());
+        QVERIFY(test::Trigger(&w, "Exit"));
+        QCOMPARE(w.currentView(), tq::View::Page1);
+        QVERIFY(app.at(1, 1).AttributeText.find("[Title=Your full name\\nplease]\r\n") != std::string::npos);
+        QVERIFY(app.at(1, 1).highlight == tq::model::Highlight::Green);
+        auto* model = w.createPage(1)->model();
+        const QString shown = model->data(model->index(1, EntryTableModel::ColText), Qt::DisplayRole).toString();
+        QVERIFY2(shown.contains("Your full name"), qPrintable(shown));
+    }
+
+    void aFailingCheckKeepsThePageOpenWithTheRowRed()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        auto& s = w.session();
+        s.store.state.ProjectMode = "SURVEY";
+        tq::model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
+        PutRow(w, 1, 1, "Title Shade");
+        auto& text = w.session().store.pages[0][1].AttributeText;
+        const auto at = text.find("Title Shade Width=");
+        QVERIFY(at != std::string::npos);
+        text.replace(at + 18, text.find(']', at) - at - 18, "40");
+        const std::string before = text;
+        EditPage* edit = OpenEdit(w, 1, 1);
+        const int row = edit->rowOf("Title Shade Width");
+        QCOMPARE(qobject_cast<QComboBox*>(edit->valueWidget(row))->currentText(), QString("40"));
+        test::DialogScript script;
+        script.press(QMessageBox::Ok);
+        QVERIFY(test::Trigger(&w, "Exit"));
+        QVERIFY(script.done());
+        QCOMPARE(script.seen.value(0),
+                 QString("ERROR: TITLE SHADE WIDTH\nMUST HAVE A % AFTER THE TITLE SHADE WIDTH\nEXAMPLE: 40%"));
+        QCOMPARE(w.currentView(), tq::View::EditPage);
+        QVERIFY(edit->valueWidget(row)->styleSheet().contains("#ff0000"));
+        QCOMPARE(w.focusWidget(), edit->valueWidget(row));
+        QCOMPARE(w.session().store.pages[0][1].AttributeText, before);
+        test::SaveScreenshot(&w, "edit_page_failed_row");
+
+        // Abort with errors asks first; No stays, Yes leaves the text as it was
+        script.press(QMessageBox::No);
+        QVERIFY(test::Trigger(&w, "Abort"));
+        QVERIFY(script.seen.last().startsWith("ABORT: THERE ARE ERRORS ON THE EDIT PAGE\nYOUR SURVEY WILL NOT BUILD"));
+        QCOMPARE(w.currentView(), tq::View::EditPage);
+        script.press(QMessageBox::Yes);
+        QVERIFY(test::Trigger(&w, "Abort"));
+        QVERIFY(script.done());
+        QCOMPARE(w.currentView(), tq::View::Page1);
+        QCOMPARE(w.session().store.pages[0][1].AttributeText, before);
+    }
+
+    void aColourChangePaintsTheFieldAndKeepsTheDefault()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        UseWebFolder(app);
+        EditPage* edit = OpenEdit(w, 1, 0);
+        test::SaveScreenshot(&w, "edit_page_setup");
+        const int row = edit->rowOf("Frame Color");
+        test::DialogScript script;
+        script.then([](QWidget* box) {
+            auto* dialog = qobject_cast<QColorDialog*>(box);
+            QVERIFY(dialog);
+            dialog->setCurrentColor(QColor(0, 0, 255));
+            dialog->accept();
+        });
+        edit->findChild<QPushButton*>(QString("ChangeColor%1").arg(row))->click();
+        QVERIFY(script.done());
+        auto* value = qobject_cast<QLineEdit*>(edit->valueWidget(row));
+        QCOMPARE(value->text(), QString("16711680"));
+        QVERIFY(value->styleSheet().contains("#0000ff"));
+        QCOMPARE(w.session().settings.FrameColor, std::string("16711680"));
+        QVERIFY(test::Trigger(&w, "Exit"));
+        QVERIFY(app.at(1, 0).AttributeText.find("[Frame Color=16711680]") != std::string::npos);
+    }
+
+    void theEntryPreviewOfAConditionShowsItsFollowup()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        PutRow(w, 1, 1, "Condition With Comment");
+        PutRow(w, 1, 2, "Followup With Comment");
+        EditPage* edit = OpenEdit(w, 1, 1);
+        test::SaveScreenshot(&w, "edit_page_condition");
+        QVERIFY(test::Trigger(&w, "Preview"));
+        QVERIFY(edit->browser() && edit->browser()->isVisible());
+        QVERIFY(WaitLoaded(edit->browser()));
+        QFile file(app.data + "/Preview.htm");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString html = QString::fromUtf8(file.readAll());
+        QVERIFY(html.contains("Do you want to schedule a Karaoke Show?"));
+        QVERIFY(html.contains("If yes, then provide the date and time of the Show"));
+        QTest::qWait(300);
+        test::SaveScreenshot(&w, "entry_preview_condition");
+        QVERIFY(test::Trigger(&w, "ExitPreview"));
+        QVERIFY(!edit->browser()->isVisible());
+        QVERIFY(test::Trigger(&w, "Exit"));
+        QCOMPARE(w.currentView(), tq::View::Page1);
+    }
+
+    void aFormBuildEndsOnTheFinalPageAndTheCodeGoesToTheClipboard()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        PutRow(w, 1, 1, "Name");
+        UseWebFolder(app);
+        QVERIFY(test::Trigger(&w, "CreateFormOnly"));
+        QCOMPARE(w.currentView(), tq::View::FinalPage);
+        FinalPage* page = w.finalPage();
+        QCOMPARE(page->findChild<QLabel*>("lblTitle")->text(),
+                 QString("INSTRUCTIONS ON GETTING YOUR FORM ON THE INTERNET "));
+        QCOMPARE(page->findChild<QPushButton*>("CopyCode")->text(), QString("Copy FORM data to the clipboard"));
+        QCOMPARE(page->findChild<QLabel*>("lblUpload")->text(),
+                 QString("UPLOAD THE FOLLOWING FILE TO YOUR WEB SERVER"));
+        QCOMPARE(page->uploadList()->count(), 1);
+        QVERIFY(page->instructionBox()->toPlainText().contains("2. On the bottom left screen select Copy FORM data"));
+        QVERIFY(page->codeBox()->toPlainText().contains("Enter your full name"));
+        test::SaveScreenshot(&w, "final_page_form");
+
+        test::DialogScript script;
+        script.press(QMessageBox::Ok);
+        page->findChild<QPushButton*>("CopyCode")->click();
+        QVERIFY(script.done());
+        QVERIFY(
+            script.seen[0].startsWith("HTML CODE COPIED TO THE CLIPBOARD: The output HTML file code has been saved"));
+        QFile html(QString::fromStdString(w.session().build.htmlPath));
+        QVERIFY(html.open(QIODevice::ReadOnly));
+        QCOMPARE(QApplication::clipboard()->text(), QString::fromUtf8(html.readAll()));
+        QVERIFY(test::Trigger(&w, "EditMenu"));
+        QCOMPARE(w.currentView(), tq::View::Page1);
+    }
+
+    void aSurveyWholePageIsPreviewedThenItsFinalPageShown()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        w.session().store.state.ProjectMode = "SURVEY";
+        PutRow(w, 1, 1, "Name");
+        UseWebFolder(app);
+        test::DialogScript script;
+        // the first preview may meet a cold engine, the second a warm one
+        for (int round = 0; round < 2; ++round) {
+            QElapsedTimer clock;
+            clock.start();
+            QVERIFY(test::Trigger(&w, "CreateFormHTMLCode"));
+            QCOMPARE(w.currentView(), tq::View::Preview);
+            QVERIFY(WaitLoaded(w.previewWindow()->browser()));
+            qInfo("whole-page preview %s: %lld ms", round == 0 ? "cold" : "warm", clock.elapsed());
+            if (round == 0) {
+                QTest::qWait(300);
+                test::SaveScreenshot(&w, "whole_page_preview");
+            }
+            QVERIFY(test::Trigger(&w, "Exit"));
+            QCOMPARE(w.currentView(), tq::View::FinalPage);
+            // the second build replaces the files after its two questions
+            if (round == 0)
+                script.press(QMessageBox::No).press(QMessageBox::Yes);
+        }
+        QVERIFY2(script.done(), qPrintable(script.seen.join(" | ")));
+        FinalPage* page = w.finalPage();
+        QCOMPARE(page->findChild<QLabel*>("lblTitle")->text(),
+                 QString("INSTRUCTIONS ON GETTING YOUR SURVEY ON THE INTERNET "));
+        QCOMPARE(page->findChild<QPushButton*>("CopyCode")->text(), QString("Copy SURVEY data to the clipboard"));
+        QCOMPARE(page->findChild<QLabel*>("lblUpload")->text(),
+                 QString("UPLOAD THE FOLLOWING FILES TO YOUR WEB SERVER"));
+        QVERIFY(page->codeBox()->toPlainText().startsWith("<html>"));
+        test::SaveScreenshot(&w, "final_page_survey");
+    }
+
+    void theLargestTemplateOpensQuickly()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        // the browser engine starts shortly after the window: not part of the page
+        QTest::qWait(1500);
+        qint64 worst = 0;
+        QString worstName;
+        const auto& names = w.session().catalogue.CatalogueNames;
+        for (const auto& name : names) {
+            if (name.empty())
+                continue;
+            PutRow(w, 1, 1, name);
+            QElapsedTimer clock;
+            clock.start();
+            w.editPage()->open(1, 1);
+            QCoreApplication::processEvents();
+            const qint64 ms = clock.elapsed();
+            if (ms >= worst) {
+                worst = ms;
+                worstName = QString::fromStdString(name);
+            }
+        }
+        qInfo("slowest edit page: %s, %lld ms", qPrintable(worstName), worst);
+    }
+};
+
+QTEST_MAIN(EditPageTest)
+#include "gui_edit_page_test.moc"
