@@ -233,7 +233,10 @@ class EditPageTest : public QObject
     {
         test::StartedWindow app;
         MainWindow& w = *app.w;
-        w.session().store.state.ProjectMode = "SURVEY";
+        auto& s = w.session();
+        s.store.state.ProjectMode = "SURVEY";
+        tq::model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
+        PutRow(w, 1, 0, "Setup");
         PutRow(w, 1, 1, "Name");
         UseWebFolder(app);
         test::DialogScript script;
