@@ -19,7 +19,7 @@ class ShowPort : public ConsolePort
   public:
     ShowPort(std::ostream& err, std::string templatePath) : ConsolePort(err), m_template(std::move(templatePath)) {}
 
-    std::optional<std::string> openFileDialog(const FileDialogSpec&) override { return m_template; }
+    std::optional<std::string> openFileDialog(const FileDialogOptions&) override { return m_template; }
 
   private:
     std::string m_template;

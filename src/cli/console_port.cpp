@@ -44,12 +44,12 @@ std::optional<std::string> ConsolePort::inputBox(std::string_view prompt, std::s
     return std::nullopt;
 }
 
-std::optional<std::string> ConsolePort::openFileDialog(const FileDialogSpec&)
+std::optional<std::string> ConsolePort::openFileDialog(const FileDialogOptions&)
 {
     return std::nullopt;
 }
 
-std::optional<std::string> ConsolePort::saveFileDialog(const FileDialogSpec&)
+std::optional<std::string> ConsolePort::saveFileDialog(const FileDialogOptions&)
 {
     return std::nullopt;
 }

@@ -49,8 +49,8 @@ class LocalBuildPort : public UiPort
     {
         return m_ui.inputBox(p, t, i);
     }
-    std::optional<std::string> openFileDialog(const FileDialogSpec& s) override { return m_ui.openFileDialog(s); }
-    std::optional<std::string> saveFileDialog(const FileDialogSpec& s) override { return m_ui.saveFileDialog(s); }
+    std::optional<std::string> openFileDialog(const FileDialogOptions& s) override { return m_ui.openFileDialog(s); }
+    std::optional<std::string> saveFileDialog(const FileDialogOptions& s) override { return m_ui.saveFileDialog(s); }
     std::optional<std::string> browseForFolder(std::string_view t, std::string_view i) override
     {
         return m_ui.browseForFolder(t, i);

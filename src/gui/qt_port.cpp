@@ -95,21 +95,21 @@ std::optional<std::string> QtPort::inputBox(std::string_view prompt, std::string
     return s.toStdString();
 }
 
-std::optional<std::string> QtPort::openFileDialog(const FileDialogSpec& spec)
+std::optional<std::string> QtPort::openFileDialog(const FileDialogOptions& options)
 {
-    QString f =
-        QFileDialog::getOpenFileName(m_parent, ToQ(spec.title), ToQ(spec.initialFolder), ToQFilter(spec.filter));
+    QString f = QFileDialog::getOpenFileName(m_parent, ToQ(options.title), ToQ(options.initialFolder),
+                                             ToQFilter(options.filter));
     if (f.isEmpty())
         return std::nullopt;
     return f.toStdString();
 }
 
-std::optional<std::string> QtPort::saveFileDialog(const FileDialogSpec& spec)
+std::optional<std::string> QtPort::saveFileDialog(const FileDialogOptions& options)
 {
-    QString start = ToQ(spec.initialFolder);
-    if (!spec.initialName.empty())
-        start += "/" + ToQ(spec.initialName);
-    QString f = QFileDialog::getSaveFileName(m_parent, ToQ(spec.title), start, ToQFilter(spec.filter), nullptr,
+    QString start = ToQ(options.initialFolder);
+    if (!options.initialName.empty())
+        start += "/" + ToQ(options.initialName);
+    QString f = QFileDialog::getSaveFileName(m_parent, ToQ(options.title), start, ToQFilter(options.filter), nullptr,
                                              QFileDialog::DontConfirmOverwrite);
     if (f.isEmpty())
         return std::nullopt;

@@ -18,9 +18,14 @@ Answer QuietPort::ask(std::string_view, std::string_view title, Buttons b, Icon,
 
 std::string MakeAttributeText(size_t bytes)
 {
-    static const char* const kItems[] = {"[Title=Enter your full name] ", "[Info: The title of the question] ",
-                                         "[Title Size=3] ", "[Info: From 1 to 7] ", "[Align=left] ",
-                                         "[Choices=left,right,center] ", "[Text Color=0] ", "[Info: A colour] "};
+    static const char* const kItems[] = {"[Title=Enter your full name] ",
+                                         "[Info: The title of the question] ",
+                                         "[Title Size=3] ",
+                                         "[Info: From 1 to 7] ",
+                                         "[Align=left] ",
+                                         "[Choices=left,right,center] ",
+                                         "[Text Color=0] ",
+                                         "[Info: A colour] "};
     std::string out;
     out.reserve(bytes + 64);
     for (size_t i = 0; out.size() < bytes; ++i)

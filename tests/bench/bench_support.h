@@ -17,8 +17,8 @@ struct QuietPort : UiPort
     {
         return std::nullopt;
     }
-    std::optional<std::string> openFileDialog(const FileDialogSpec&) override { return std::nullopt; }
-    std::optional<std::string> saveFileDialog(const FileDialogSpec&) override { return std::nullopt; }
+    std::optional<std::string> openFileDialog(const FileDialogOptions&) override { return std::nullopt; }
+    std::optional<std::string> saveFileDialog(const FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { return std::nullopt; }
     std::optional<long> chooseColor(long) override { return std::nullopt; }
 };

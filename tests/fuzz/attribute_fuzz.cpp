@@ -30,8 +30,8 @@ struct NullPort : UiPort
     {
         return std::nullopt;
     }
-    std::optional<std::string> openFileDialog(const FileDialogSpec&) override { return std::nullopt; }
-    std::optional<std::string> saveFileDialog(const FileDialogSpec&) override { return std::nullopt; }
+    std::optional<std::string> openFileDialog(const FileDialogOptions&) override { return std::nullopt; }
+    std::optional<std::string> saveFileDialog(const FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { return std::nullopt; }
     std::optional<long> chooseColor(long) override { return std::nullopt; }
 };

@@ -38,8 +38,8 @@ struct AnsweringPort : tq::UiPort
             return std::nullopt;
         return initial.empty() ? std::string("fuzz") : std::string(initial);
     }
-    std::optional<std::string> openFileDialog(const tq::FileDialogSpec&) override { return std::nullopt; }
-    std::optional<std::string> saveFileDialog(const tq::FileDialogSpec&) override { return std::nullopt; }
+    std::optional<std::string> openFileDialog(const tq::FileDialogOptions&) override { return std::nullopt; }
+    std::optional<std::string> saveFileDialog(const tq::FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { return std::nullopt; }
     std::optional<long> chooseColor(long) override { return std::nullopt; }
 };

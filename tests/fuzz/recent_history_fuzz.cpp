@@ -22,8 +22,8 @@ struct QuietPort : tq::UiPort
     void message(std::string_view, std::string_view, tq::Icon) override {}
     tq::Answer ask(std::string_view, std::string_view, tq::Buttons, tq::Icon, int) override { std::abort(); }
     std::optional<std::string> inputBox(std::string_view, std::string_view, std::string_view) override { std::abort(); }
-    std::optional<std::string> openFileDialog(const tq::FileDialogSpec&) override { std::abort(); }
-    std::optional<std::string> saveFileDialog(const tq::FileDialogSpec&) override { std::abort(); }
+    std::optional<std::string> openFileDialog(const tq::FileDialogOptions&) override { std::abort(); }
+    std::optional<std::string> saveFileDialog(const tq::FileDialogOptions&) override { std::abort(); }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { std::abort(); }
     std::optional<long> chooseColor(long) override { std::abort(); }
 };

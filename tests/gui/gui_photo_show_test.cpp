@@ -29,15 +29,15 @@ class FilePort : public QtPort
 {
   public:
     FilePort() : QtPort(nullptr) {}
-    std::optional<std::string> openFileDialog(const tq::FileDialogSpec& spec) override { return next(spec); }
-    std::optional<std::string> saveFileDialog(const tq::FileDialogSpec& spec) override { return next(spec); }
+    std::optional<std::string> openFileDialog(const tq::FileDialogOptions& options) override { return next(options); }
+    std::optional<std::string> saveFileDialog(const tq::FileDialogOptions& options) override { return next(options); }
     QStringList files;
     QStringList titles;
 
   private:
-    std::optional<std::string> next(const tq::FileDialogSpec& spec)
+    std::optional<std::string> next(const tq::FileDialogOptions& options)
     {
-        titles << QString::fromStdString(spec.title);
+        titles << QString::fromStdString(options.title);
         if (files.isEmpty())
             return std::nullopt;
         return files.takeFirst().toStdString();

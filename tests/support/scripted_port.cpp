@@ -53,14 +53,14 @@ static std::optional<std::string> TakeFile(ScriptedPort& p, const char* kind, st
     return s;
 }
 
-std::optional<std::string> ScriptedPort::openFileDialog(const FileDialogSpec& spec)
+std::optional<std::string> ScriptedPort::openFileDialog(const FileDialogOptions& options)
 {
-    return TakeFile(*this, "open", spec.title);
+    return TakeFile(*this, "open", options.title);
 }
 
-std::optional<std::string> ScriptedPort::saveFileDialog(const FileDialogSpec& spec)
+std::optional<std::string> ScriptedPort::saveFileDialog(const FileDialogOptions& options)
 {
-    return TakeFile(*this, "save", spec.title);
+    return TakeFile(*this, "save", options.title);
 }
 
 std::optional<std::string> ScriptedPort::browseForFolder(std::string_view title, std::string_view)

@@ -31,8 +31,8 @@ class ScriptedPort : public UiPort
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) override;
     std::optional<std::string>
     inputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
-    std::optional<std::string> openFileDialog(const FileDialogSpec& spec) override;
-    std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) override;
+    std::optional<std::string> openFileDialog(const FileDialogOptions& options) override;
+    std::optional<std::string> saveFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
     std::optional<long> chooseColor(long initial) override;
 

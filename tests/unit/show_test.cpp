@@ -21,17 +21,17 @@ namespace {
 class DialogPort : public ScriptedPort
 {
   public:
-    std::optional<std::string> openFileDialog(const FileDialogSpec& spec) override
+    std::optional<std::string> openFileDialog(const FileDialogOptions& options) override
     {
-        specs.push_back(spec);
-        return ScriptedPort::openFileDialog(spec);
+        specs.push_back(options);
+        return ScriptedPort::openFileDialog(options);
     }
-    std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) override
+    std::optional<std::string> saveFileDialog(const FileDialogOptions& options) override
     {
-        specs.push_back(spec);
-        return ScriptedPort::saveFileDialog(spec);
+        specs.push_back(options);
+        return ScriptedPort::saveFileDialog(options);
     }
-    std::vector<FileDialogSpec> specs;
+    std::vector<FileDialogOptions> specs;
 };
 
 ShowSettings Edited(const std::string& folder)

@@ -54,8 +54,8 @@ struct StateRecord
     std::string SavedSetupName;
     std::string SavedSetupText;
     int AbortFlag = 0;
-    bool LoadPending = false; // the opening marker: the clear prompt runs on behalf of an open
-    int commitMode = 0; // 10 while Exit of the edit page commits, 11 during an Entry preview, else 0
+    bool LoadPending = false;  // the opening marker: the clear prompt runs on behalf of an open
+    int commitMode = 0;        // 10 while Exit of the edit page commits, 11 during an Entry preview, else 0
     bool CommitFailed = false; // a line check of the edit page refused the commit
     int buildError = 0;
 };

@@ -14,7 +14,7 @@ enum class Answer { Ok, Yes, No, Cancel };
 
 /// What a file dialog shows: its title, the folder it starts in, the name it
 /// proposes and its filter ("Form Files (*.fms) | *.fms").
-struct FileDialogSpec
+struct FileDialogOptions
 {
     std::string title;
     std::string initialFolder;
@@ -49,8 +49,8 @@ struct UiPort
     /// A one-line input box; nullopt when the user cancelled.
     virtual std::optional<std::string>
     inputBox(std::string_view prompt, std::string_view title, std::string_view initial) = 0;
-    virtual std::optional<std::string> openFileDialog(const FileDialogSpec& spec) = 0;
-    virtual std::optional<std::string> saveFileDialog(const FileDialogSpec& spec) = 0;
+    virtual std::optional<std::string> openFileDialog(const FileDialogOptions& options) = 0;
+    virtual std::optional<std::string> saveFileDialog(const FileDialogOptions& options) = 0;
     virtual std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) = 0;
     /// A colour dialog; colours are 24-bit values with red in the low byte.
     virtual std::optional<long> chooseColor(long initial) = 0;

@@ -304,11 +304,11 @@ EditAction EditTextField(Session& s, UiPort& ui, EditState& st, int row)
     const std::string& mode = s.store.state.ProjectMode;
     if (k == "COMPLETED") {
         // the thank-you page is a file of the web folder: its name is the value
-        FileDialogSpec spec;
-        spec.title = "COMPLETED";
-        spec.initialFolder = s.build.setupValues.WebFolder;
-        spec.filter = "HTML Files (*.htm) | *.htm";
-        const auto chosen = ui.openFileDialog(spec);
+        FileDialogOptions options;
+        options.title = "COMPLETED";
+        options.initialFolder = s.build.setupValues.WebFolder;
+        options.filter = "HTML Files (*.htm) | *.htm";
+        const auto chosen = ui.openFileDialog(options);
         if (!chosen || chosen->empty()) {
             ui.message("ABORTED...", "ABORTED", Icon::Information);
             return EditAction::Done;

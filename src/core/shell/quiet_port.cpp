@@ -15,12 +15,12 @@ std::optional<std::string> QuietPort::inputBox(std::string_view, std::string_vie
     return std::nullopt;
 }
 
-std::optional<std::string> QuietPort::openFileDialog(const FileDialogSpec&)
+std::optional<std::string> QuietPort::openFileDialog(const FileDialogOptions&)
 {
     return std::nullopt;
 }
 
-std::optional<std::string> QuietPort::saveFileDialog(const FileDialogSpec&)
+std::optional<std::string> QuietPort::saveFileDialog(const FileDialogOptions&)
 {
     return std::nullopt;
 }

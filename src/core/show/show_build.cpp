@@ -91,12 +91,12 @@ void ValidateShow(const ShowSettings& s, bool& failed, UiPort& ui)
 
 void FindTemplate(std::string& path, bool& failed, std::string_view programFolder, store::RunValues& run, UiPort& ui)
 {
-    FileDialogSpec spec;
-    spec.title = "Where is photodata.php located?";
-    spec.filter = "Default File (*.php) | photodata.php";
-    spec.initialName = "photodata.php";
-    spec.initialFolder = std::string(programFolder);
-    std::optional<std::string> chosen = ui.openFileDialog(spec);
+    FileDialogOptions options;
+    options.title = "Where is photodata.php located?";
+    options.filter = "Default File (*.php) | photodata.php";
+    options.initialName = "photodata.php";
+    options.initialFolder = std::string(programFolder);
+    std::optional<std::string> chosen = ui.openFileDialog(options);
     if (!chosen) {
         ui.message("ABORTED...", "ABORTED", Icon::Information);
         failed = true;

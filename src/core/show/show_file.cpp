@@ -126,15 +126,15 @@ void SetFontDefaults(store::RunValues& run)
 bool SaveShow(Session& session, UiPort& ui)
 {
     ShowSettings& s = session.photoShow.settings;
-    FileDialogSpec spec;
-    spec.title = "Enter the Filename";
-    spec.initialName = s.ImageFolder;
-    if (!spec.initialName.empty() && spec.initialName.back() != '/' && spec.initialName.back() != '\\')
-        spec.initialName += platform::kSeparator;
-    spec.initialName += s.ShowFileName;
-    spec.initialFolder = s.ImageFolder;
-    spec.filter = std::string(kShowFilter);
-    std::optional<std::string> chosen = ui.saveFileDialog(spec);
+    FileDialogOptions options;
+    options.title = "Enter the Filename";
+    options.initialName = s.ImageFolder;
+    if (!options.initialName.empty() && options.initialName.back() != '/' && options.initialName.back() != '\\')
+        options.initialName += platform::kSeparator;
+    options.initialName += s.ShowFileName;
+    options.initialFolder = s.ImageFolder;
+    options.filter = std::string(kShowFilter);
+    std::optional<std::string> chosen = ui.saveFileDialog(options);
     if (!chosen || chosen->empty())
         return false;
     std::string name = *chosen;
@@ -166,11 +166,11 @@ bool OpenShow(Session& session, std::string_view path, UiPort& ui)
     ShowPage& page = session.photoShow;
     std::string name(path);
     if (name.empty()) {
-        FileDialogSpec spec;
-        spec.title = "Where is photoshow file located?";
-        spec.initialFolder = page.settings.ImageFolder;
-        spec.filter = std::string(kShowFilter);
-        std::optional<std::string> chosen = ui.openFileDialog(spec);
+        FileDialogOptions options;
+        options.title = "Where is photoshow file located?";
+        options.initialFolder = page.settings.ImageFolder;
+        options.filter = std::string(kShowFilter);
+        std::optional<std::string> chosen = ui.openFileDialog(options);
         if (!chosen || chosen->empty()) {
             ui.message("ABORTED...", "ABORTED", Icon::Information);
             return false;

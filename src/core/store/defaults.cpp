@@ -28,12 +28,12 @@ bool SaveDefaults(Session& s, UiPort& ui, bool askFirst, const DefaultsHooks& ho
     if (askFirst && hooks.setupReminder && hooks.setupReminder(s, ui) == 1)
         return leave();
 
-    FileDialogSpec spec;
-    spec.title = "Enter the Filename";
-    spec.initialFolder = s.DataFolder;
-    spec.initialName = platform::JoinPath(s.DataFolder, kDefaultName);
-    spec.filter = kDefaultFilter;
-    auto chosen = ui.saveFileDialog(spec);
+    FileDialogOptions options;
+    options.title = "Enter the Filename";
+    options.initialFolder = s.DataFolder;
+    options.initialName = platform::JoinPath(s.DataFolder, kDefaultName);
+    options.filter = kDefaultFilter;
+    auto chosen = ui.saveFileDialog(options);
     if (!chosen || chosen->empty())
         return leave();
     if (FileReadable(*chosen)) {
@@ -52,11 +52,11 @@ bool SaveDefaults(Session& s, UiPort& ui, bool askFirst, const DefaultsHooks& ho
 
 bool RestoreDefaults(Session& s, UiPort& ui, const DefaultsHooks& hooks)
 {
-    FileDialogSpec spec;
-    spec.initialFolder = s.DataFolder;
-    spec.initialName = platform::JoinPath(s.DataFolder, kDefaultName);
-    spec.filter = kDefaultFilter;
-    auto chosen = ui.openFileDialog(spec);
+    FileDialogOptions options;
+    options.initialFolder = s.DataFolder;
+    options.initialName = platform::JoinPath(s.DataFolder, kDefaultName);
+    options.filter = kDefaultFilter;
+    auto chosen = ui.openFileDialog(options);
     if (!chosen || chosen->empty())
         return false;
     auto bytes = ReadWholeFile(*chosen);

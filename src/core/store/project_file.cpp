@@ -137,12 +137,12 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
         return false;
     s.run.busyMark = kSaving;
 
-    FileDialogSpec spec;
-    spec.title = "Enter the Filename";
-    spec.initialFolder = s.DataFolder;
-    spec.filter = Upper(extension) == "FMS" ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
-    spec.initialName = s.run.LastFormFile; // also when a survey is saved
-    auto chosen = ui.saveFileDialog(spec);
+    FileDialogOptions options;
+    options.title = "Enter the Filename";
+    options.initialFolder = s.DataFolder;
+    options.filter = Upper(extension) == "FMS" ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
+    options.initialName = s.run.LastFormFile; // also when a survey is saved
+    auto chosen = ui.saveFileDialog(options);
     if (!chosen || chosen->empty()) {
         s.run.busyMark = kIdle;
         return false;
@@ -250,12 +250,12 @@ int OpenProject(
         path = s.run.CurrentProjectName;
     } else {
         const bool form = Upper(extension) == "FMS";
-        FileDialogSpec spec;
-        spec.initialName = s.run.LastProjectPath;
-        spec.initialFolder = s.DataFolder;
-        spec.filter = form ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
-        spec.title = form ? "SELECT THE FORM FILE TO OPEN" : "SELECT THE SURVEY FILE TO OPEN";
-        auto chosen = ui.openFileDialog(spec);
+        FileDialogOptions options;
+        options.initialName = s.run.LastProjectPath;
+        options.initialFolder = s.DataFolder;
+        options.filter = form ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
+        options.title = form ? "SELECT THE FORM FILE TO OPEN" : "SELECT THE SURVEY FILE TO OPEN";
+        auto chosen = ui.openFileDialog(options);
         if (!chosen || chosen->empty())
             return fail();
         s.run.LastProjectPath = *chosen;

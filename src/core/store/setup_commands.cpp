@@ -173,12 +173,12 @@ void SortSetupByNumber(SetupStore& setup, UiPort& ui, std::string_view mode)
 void FindToolPath(SetupStore& setup, UiPort& ui, ToolKind kind, bool wow64)
 {
     const std::string word = KindWord(kind);
-    FileDialogSpec spec;
-    spec.title = word;
+    FileDialogOptions options;
+    options.title = word;
     // this platform has no 32-bit program folder: the programs live in one place
-    spec.initialFolder = wow64 ? "/usr/bin" : "/usr/bin";
-    spec.filter = "Default Files (*.exe) | *.exe";
-    auto chosen = ui.openFileDialog(spec);
+    options.initialFolder = wow64 ? "/usr/bin" : "/usr/bin";
+    options.filter = "Default Files (*.exe) | *.exe";
+    auto chosen = ui.openFileDialog(options);
     if (!chosen || chosen->empty()) {
         ui.message("ABORTED...", "ABORTED", Icon::Exclamation);
         return;
