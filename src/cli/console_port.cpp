@@ -59,7 +59,7 @@ std::optional<std::string> ConsolePort::browseForFolder(std::string_view, std::s
     return std::nullopt;
 }
 
-std::optional<long> ConsolePort::chooseColor(long)
+std::optional<long> ConsolePort::chooseColor(long, std::string_view)
 {
     return std::nullopt;
 }

@@ -23,7 +23,7 @@ class ConsolePort : public UiPort
     std::optional<std::string> openFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> saveFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
-    std::optional<long> chooseColor(long initial) override;
+    std::optional<long> chooseColor(long initial, std::string_view title) override;
     /// Runs the program for real (the publish check's "php -l").
     std::optional<ProcessResult>
     runProcess(std::string_view program, const std::vector<std::string>& args, int timeoutMs) override;

@@ -64,6 +64,8 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
     QMenu* build = AddMenu(bar, "createhtmphp", "&Build HTM-PHP");
     AddCommand(build, "CreateFormOnly", "Create Form Only", h);
     AddCommand(build, "CreateFormHTMLCode", "Create Form with HTML Code", h);
+    build->addSeparator();
+    AddCommand(build, "TestLocally", "Test Locally", h);
     AddBarCommand(bar, "FTP", "FTP", h);
     QMenu* web = AddMenu(bar, "WebEditor", "W&eb-Editor");
     for (int i = 1; i <= 15; ++i)
@@ -99,9 +101,13 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
     auto* codeCol = new QVBoxLayout;
     codeCol->addWidget(heading);
     codeCol->addWidget(m_code, 1);
+    auto* testLocally = new QPushButton("TEST LOCALLY");
+    testLocally->setObjectName("TestLocallyButton");
+    testLocally->setToolTip("Serve the form on this computer, submit it and see the mail it sends");
     auto* codeButtons = new QHBoxLayout;
     codeButtons->addWidget(m_copy);
     codeButtons->addWidget(preview);
+    codeButtons->addWidget(testLocally);
     codeCol->addLayout(codeButtons);
     grid->addLayout(codeCol, 0, 0, 2, 1);
 
@@ -122,12 +128,20 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
     side->addWidget(m_uploadLabel);
     side->addWidget(m_uploads);
     side->addWidget(m_instructions, 1);
+    m_warning = new QLabel;
+    m_warning->setObjectName("lblPublishCheck");
+    m_warning->setWordWrap(true);
+    m_warning->setTextFormat(Qt::PlainText);
+    m_warning->setStyleSheet("color: #a4262c; font-weight: 600; padding: 4px 0;");
+    m_warning->hide();
+    side->addWidget(m_warning);
     grid->addLayout(side, 0, 1, 2, 1);
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 2);
     layout->addLayout(grid, 1);
 
     connect(m_copy, &QPushButton::clicked, this, [this] { shell::CopyCodeToClipboard(m_ui, m_codeText); });
+    connect(testLocally, &QPushButton::clicked, this, [h] { h("TestLocally"); });
     connect(preview, &QPushButton::clicked, this, [this] {
         if (onPreviewFullScreen)
             onPreviewFullScreen();
@@ -146,6 +160,13 @@ void FinalPage::fill(const shell::FinalPageText& text, const QString& outputFold
         m_uploads->addItem(ToQ(f));
     m_instructions->setPlainText(ToQ(text.instructions).replace("\r\n", "\n"));
     m_code->setPlainText(ToQ(text.code).replace("\r\n", "\n"));
+    setPublishWarning({});
+}
+
+void FinalPage::setPublishWarning(const QString& warning)
+{
+    m_warning->setText(warning);
+    m_warning->setVisible(!warning.isEmpty());
 }
 
 } // namespace tq::gui

@@ -26,10 +26,13 @@ class FinalPage : public QWidget
 
     /// Shows what ShowInstructions returned; `outputFolder` is what ViewFolder opens.
     void fill(const shell::FinalPageText& text, const QString& outputFolder);
+    /// The publish check's line under the instructions; empty hides it.
+    void setPublishWarning(const QString& warning);
 
     QPlainTextEdit* codeBox() const { return m_code; }
     QPlainTextEdit* instructionBox() const { return m_instructions; }
     QListWidget* uploadList() const { return m_uploads; }
+    QLabel* publishWarning() const { return m_warning; }
 
     /// PREVIEW FULL SCREEN: the shell shows the output file in the preview window.
     std::function<void()> onPreviewFullScreen;
@@ -40,6 +43,7 @@ class FinalPage : public QWidget
     QLabel* m_uploadLabel = nullptr;
     QPlainTextEdit* m_code = nullptr;
     QPlainTextEdit* m_instructions = nullptr;
+    QLabel* m_warning = nullptr;
     QListWidget* m_uploads = nullptr;
     QPushButton* m_copy = nullptr;
     QString m_folder;

@@ -55,7 +55,7 @@ class LocalBuildPort : public UiPort
     {
         return m_ui.browseForFolder(t, i);
     }
-    std::optional<long> chooseColor(long c) override { return m_ui.chooseColor(c); }
+    std::optional<long> chooseColor(long c, std::string_view title) override { return m_ui.chooseColor(c, title); }
     void setBusy(bool on) override { m_ui.setBusy(on); }
 
   private:

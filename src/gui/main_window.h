@@ -53,6 +53,7 @@ class MainWindow : public QMainWindow
     void runCommand(const QString& name);
     /// Adds or replaces the command `name`.
     void registerCommand(const QString& name, std::function<void()> run);
+    bool hasCommand(const QString& name) const { return m_commands.contains(name); }
 
     /// Adds a page to the stack under `view` (the later pages register here).
     void registerPage(View view, QWidget* page);

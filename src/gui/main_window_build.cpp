@@ -3,6 +3,7 @@
 #include "about_dialog.h"
 #include "build/build_driver.h"
 #include "busy_cursor.h"
+#include "final_page.h"
 #include "main_window.h"
 #include "qt_port.h"
 #include "shell/publish_check.h"
@@ -42,11 +43,7 @@ void MainWindow::runBuild(bool wholePage)
         BusyCursor busy;
         warning = shell::CheckPublishedScript(s.build, *m_port).warning;
     }
-    // the final page tells where the files went; only a warning comes as a box
-    if (!warning.empty())
-        m_port->message("Your files have been created:\r\r" + s.build.htmlPath + "\r" + s.build.phpPath + "\r\r" +
-                            warning,
-                        "BUILD COMPLETE", Icon::Information);
+    finalPage()->setPublishWarning(QString::fromStdString(warning));
     if (wholePage)
         showWholePagePreview();
 }

@@ -7,6 +7,7 @@
 #include "preview_window.h"
 #include "qt_port.h"
 #include "shell/instructions.h"
+#include "shell/preview.h"
 
 #include <QTimer>
 
@@ -69,6 +70,8 @@ void MainWindow::registerEditCommands()
     // The browser engine starts once the window is up, so that the first
     // preview does not wait for it and the start page does not either.
     QTimer::singleShot(200, this, [this] { previewWindow(); });
+    // the batch command of the Pages: one shade width for every question
+    registerCommand("ShadeWidthAll", [this] { shell::SetShadeWidthAll(m_session, *m_port); });
 }
 
 void MainWindow::openEntryEditPage(int page, int row, const std::string& selectKey)

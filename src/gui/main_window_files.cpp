@@ -3,6 +3,8 @@
 #include "create_page.h"
 #include "main_window.h"
 #include "qt_port.h"
+#include "shell/instructions.h"
+#include "store/defaults.h"
 #include "store/project_file.h"
 #include "store/recent_history.h"
 
@@ -38,6 +40,17 @@ void MainWindow::registerFileCommands()
                                      projectHooks());
         });
     }
+    registerCommand("SaveDefaults", [&] {
+        store::DefaultsHooks hooks;
+        hooks.setupReminder = [](Session& session, UiPort& port) { return shell::SetupReminder(session, port, 1); };
+        store::SaveDefaults(s, ui, true, hooks);
+    });
+    registerCommand("RestoreDefaults", [this] {
+        store::DefaultsHooks hooks;
+        hooks.fillPickLists = [this](Session&) { fillPickLists(); };
+        if (store::RestoreDefaults(m_session, *m_port, hooks))
+            refreshAll();
+    });
     registerCommand("EditFormHistory", [&] { store::EditHistory(s, ui, store::RecentList::Forms); });
     registerCommand("EditSurveyHistory", [&] { store::EditHistory(s, ui, store::RecentList::Surveys); });
     registerCommand("RefreshFormHistory", [&] { store::RefreshFormList(s, ui); });

@@ -70,10 +70,12 @@ static void AddSiteMenus(QMenuBar* bar, const CommandHandler& h)
     AddBarCommand(bar, "FTP", "FTP", h);
 }
 
-static void AddSetupMenu(QMenuBar* bar, const CommandHandler& h)
+static void AddSetupMenu(QMenuBar* bar, const CommandHandler& h, bool withRows)
 {
     QMenu* setup = AddMenu(bar, "Setup", "S&etup");
     AddCommand(setup, "SetupPage", "Setup Page", h);
+    if (withRows)
+        AddCommand(setup, "ShadeWidthAll", "Shade Width of All Questions", h);
     QMenu* folder = AddSubMenu(setup, "TarnquillFolder", "Tarnquill Folder");
     AddCommand(folder, "SelectTQL", "Change", h);
     AddCommand(folder, "ViewTarnquillFolder", "View", h);
@@ -105,6 +107,9 @@ QMenuBar* BuildMenuBar(MenuKind kind, QWidget* parent, const CommandHandler& h)
     AddCommand(survey, "SaveSurvey", "Save Survey", h);
     AddRecentMenus(file, h, kind == MenuKind::StartPage || kind == MenuKind::CreatePage1);
     file->addSeparator();
+    AddCommand(file, "SaveDefaults", "Save as Default", h);
+    AddCommand(file, "RestoreDefaults", "Restore Defaults", h);
+    file->addSeparator();
     AddCommand(file, "Exit", "Exit", h);
 
     if (kind == MenuKind::StartPage) {
@@ -125,7 +130,7 @@ QMenuBar* BuildMenuBar(MenuKind kind, QWidget* parent, const CommandHandler& h)
     AddSiteMenus(bar, h);
     if (kind != MenuKind::StartPage)
         AddBarCommand(bar, "Main", "&Main", h);
-    AddSetupMenu(bar, h);
+    AddSetupMenu(bar, h, kind != MenuKind::StartPage);
     AddBarCommand(bar, "Exit1", "E&xit", h);
 
     QMenu* help = AddMenu(bar, "Help", "&Help");

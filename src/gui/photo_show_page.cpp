@@ -332,7 +332,7 @@ bool PhotoShowPage::runCommand(const QString& name)
     } else if (name == "OpenLocalShow") {
         show::OpenLocalShow(page.settings, m_ui);
     } else if (name == "BackgroundColor") {
-        if (auto c = m_ui.chooseColor(page.settings.BackgroundColor))
+        if (auto c = m_ui.chooseColor(page.settings.BackgroundColor, "BACKGROUND COLOR"))
             page.settings.BackgroundColor = *c;
         refresh();
     } else {

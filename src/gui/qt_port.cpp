@@ -124,11 +124,11 @@ std::optional<std::string> QtPort::browseForFolder(std::string_view title, std::
     return f.toStdString();
 }
 
-std::optional<long> QtPort::chooseColor(long initial)
+std::optional<long> QtPort::chooseColor(long initial, std::string_view title)
 {
     QColor start(static_cast<int>(initial & 0xff), static_cast<int>((initial >> 8) & 0xff),
                  static_cast<int>((initial >> 16) & 0xff));
-    QColor c = QColorDialog::getColor(start, m_parent);
+    QColor c = QColorDialog::getColor(start, m_parent, ToQ(title));
     if (!c.isValid())
         return std::nullopt;
     return static_cast<long>(c.red()) | (static_cast<long>(c.green()) << 8) | (static_cast<long>(c.blue()) << 16);

@@ -23,7 +23,7 @@ class QtPort : public UiPort
     std::optional<std::string> openFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> saveFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
-    std::optional<long> chooseColor(long initial) override;
+    std::optional<long> chooseColor(long initial, std::string_view title) override;
     void setBusy(bool on) override;
     bool openTarget(std::string_view target) override;
     void setClipboard(std::string_view text) override;

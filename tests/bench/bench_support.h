@@ -20,7 +20,7 @@ struct QuietPort : UiPort
     std::optional<std::string> openFileDialog(const FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> saveFileDialog(const FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { return std::nullopt; }
-    std::optional<long> chooseColor(long) override { return std::nullopt; }
+    std::optional<long> chooseColor(long, std::string_view) override { return std::nullopt; }
 };
 
 /// A one-line attribute text of about `bytes` bytes made of ordinary items.

@@ -33,7 +33,7 @@ struct NullPort : UiPort
     std::optional<std::string> openFileDialog(const FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> saveFileDialog(const FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { return std::nullopt; }
-    std::optional<long> chooseColor(long) override { return std::nullopt; }
+    std::optional<long> chooseColor(long, std::string_view) override { return std::nullopt; }
 };
 
 constexpr std::array<std::string_view, 10> kKeys = {

@@ -41,7 +41,7 @@ struct AnsweringPort : tq::UiPort
     std::optional<std::string> openFileDialog(const tq::FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> saveFileDialog(const tq::FileDialogOptions&) override { return std::nullopt; }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { return std::nullopt; }
-    std::optional<long> chooseColor(long) override { return std::nullopt; }
+    std::optional<long> chooseColor(long, std::string_view) override { return std::nullopt; }
 };
 
 // The scratch folders of this process, removed at its end.

@@ -24,7 +24,7 @@ struct QuietPort : tq::UiPort
     std::optional<std::string> openFileDialog(const tq::FileDialogOptions&) override { std::abort(); }
     std::optional<std::string> saveFileDialog(const tq::FileDialogOptions&) override { std::abort(); }
     std::optional<std::string> browseForFolder(std::string_view, std::string_view) override { std::abort(); }
-    std::optional<long> chooseColor(long) override { std::abort(); }
+    std::optional<long> chooseColor(long, std::string_view) override { std::abort(); }
 };
 
 const std::string& ScratchFile()

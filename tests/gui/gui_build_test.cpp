@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "create_page.h"
 #include "entry_table_model.h"
+#include "final_page.h"
 #include "gui_test_support.h"
 #include "main_window.h"
 #include "model/catalogue.h"
@@ -9,8 +10,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QtTest>
 
 using namespace tq::gui;
@@ -28,6 +31,22 @@ void PutRow(MainWindow& w, int page, int row, const std::string& type)
     w.refreshAll();
 }
 
+// Points the SetupEntry at a new web folder and takes away the sample marks
+// (";") that stop a build until the user replaces them.
+QString UseWebFolder(test::StartedWindow& app)
+{
+    const QString web = app.docs.filePath("web");
+    QDir().mkpath(web);
+    auto& setup = app.w->session().store.pages[0][0].AttributeText;
+    const auto at = setup.find("c:\\users");
+    if (at == std::string::npos)
+        return {};
+    setup.replace(at, 8, web.toStdString());
+    for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
+        setup.erase(mark + 1, 1);
+    return web;
+}
+
 } // namespace
 
 class BuildTest : public QObject
@@ -41,15 +60,8 @@ class BuildTest : public QObject
         MainWindow& w = *app.w;
         PutRow(w, 1, 1, "Name");
         PutRow(w, 1, 2, "Email");
-        const QString web = app.docs.filePath("web");
-        QDir().mkpath(web);
-        auto& setup = w.session().store.pages[0][0].AttributeText;
-        const auto at = setup.find("c:\\users");
-        QVERIFY(at != std::string::npos);
-        setup.replace(at, 8, web.toStdString());
-        // the samples are marked with a leading ";" until the user replaces them
-        for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
-            setup.erase(mark + 1, 1);
+        const QString web = UseWebFolder(app);
+        QVERIFY(!web.isEmpty());
 
         test::DialogScript script;
         QVERIFY(test::Trigger(&w, "CreateFormOnly"));
@@ -62,6 +74,34 @@ class BuildTest : public QObject
         // the busy pointer is gone on every way out
         QCOMPARE(QApplication::overrideCursor(), nullptr);
         QCOMPARE(w.currentView(), tq::View::FinalPage);
+        // a script PHP can parse gets no warning line
+        QVERIFY(w.finalPage()->publishWarning()->isHidden());
+    }
+
+    void theFinalPageWarnsOfAScriptPhpCannotParseAndTestsLocally()
+    {
+        if (QStandardPaths::findExecutable("php").isEmpty())
+            QSKIP("php is not installed");
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        PutRow(w, 1, 1, "Name");
+        PutRow(w, 1, 2, "Cell Phone Number");
+        QVERIFY(!UseWebFolder(app).isEmpty());
+        test::DialogScript script;
+        QVERIFY(test::Trigger(&w, "CreateFormOnly"));
+        QVERIFY2(script.seen.isEmpty(), qPrintable(script.seen.join(" | ")));
+        QCOMPARE(w.currentView(), tq::View::FinalPage);
+        QLabel* warning = w.finalPage()->publishWarning();
+        QVERIFY(warning->isVisible());
+        QVERIFY2(warning->text().contains("Cell Phone Number"), qPrintable(warning->text()));
+        test::SaveScreenshot(&w, "final_page_publish_check");
+
+        // the page's own button and its Build menu both start the local test
+        int started = 0;
+        w.registerCommand("TestLocally", [&started] { ++started; });
+        w.finalPage()->findChild<QPushButton*>("TestLocallyButton")->click();
+        QVERIFY(test::Trigger(w.finalPage(), "TestLocally"));
+        QCOMPARE(started, 2);
     }
 
     void aMissingWebFolderIsToldAndTheSetupRowShown()

@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -168,6 +169,29 @@ class StartPageTest : public QObject
         for (const QString& name : scratch)
             QVERIFY2(!QFile::exists(data + "/" + name), qPrintable(name));
         QVERIFY(QFile::exists(data + "/keep.fms"));
+    }
+
+    void everyMenuEntryOfTheStartAndCreatePagesRunsACommand()
+    {
+        test::StartedWindow app;
+        QVERIFY(app.started);
+        MainWindow& w = *app.w;
+        // the tool commands and the later pages register on first use
+        w.editPage();
+        w.finalPage();
+        QStringList missing;
+        for (QWidget* page : {static_cast<QWidget*>(w.startPage()), static_cast<QWidget*>(w.createPage(1)),
+                              static_cast<QWidget*>(w.createPage(2))}) {
+            for (QAction* a : page->findChildren<QAction*>()) {
+                const QString name = a->objectName();
+                if (a->menu() || a->isSeparator() || name.isEmpty())
+                    continue;
+                if (!w.hasCommand(name))
+                    missing << page->objectName() + "/" + name;
+            }
+        }
+        missing.removeDuplicates();
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(", ")));
     }
 
     void aboutBoxShowsTheVersionAndHasNoSystemInformation()

@@ -68,9 +68,9 @@ std::optional<std::string> ScriptedPort::browseForFolder(std::string_view title,
     return TakeFile(*this, "folder", title);
 }
 
-std::optional<long> ScriptedPort::chooseColor(long)
+std::optional<long> ScriptedPort::chooseColor(long, std::string_view title)
 {
-    shown.push_back({"color", "", "", Icon::None, Buttons::Ok, 0});
+    shown.push_back({"color", "", std::string(title), Icon::None, Buttons::Ok, 0});
     if (colors.empty()) {
         ADD_FAILURE() << "unexpected colour dialog";
         return std::nullopt;

@@ -34,12 +34,13 @@ class ScriptedPort : public UiPort
     std::optional<std::string> openFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> saveFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
-    std::optional<long> chooseColor(long initial) override;
+    std::optional<long> chooseColor(long initial, std::string_view title) override;
 
     void showView(View v) override { views.push_back(v); }
     void openEditPage(int page, int row, std::string_view selectKey) override;
     void selectRow(int page, int row) override { selectedRows.push_back({page, row}); }
     void setBusy(bool on) override { busyCalls.push_back(on); }
+    void hidePreviews() override { ++previewsHidden; }
     bool startProgram(std::string_view program,
                       const std::vector<std::string>& args,
                       std::string_view workingFolder) override;
@@ -82,6 +83,7 @@ class ScriptedPort : public UiPort
     std::vector<EditCall> editCalls;
     std::vector<std::pair<int, int>> selectedRows;
     std::vector<bool> busyCalls;
+    int previewsHidden = 0;
     struct Started
     {
         std::string program;

@@ -225,6 +225,8 @@ TEST(EditPageColors, ChangeColorUpdatesTheDefaultsAndRightClickSetsNone)
     const int frameColor = f.rowOf(st, "Frame Color");
     f.port.color(255);
     EXPECT_TRUE(ChangeColor(*f.s, f.port, st, frameColor));
+    EXPECT_EQ(f.port.last().kind, "color");
+    EXPECT_EQ(f.port.last().title, "COLORS");
     EXPECT_EQ(st.fields[static_cast<size_t>(frameColor)].Value, "255");
     EXPECT_EQ(FieldColor(st.fields[static_cast<size_t>(frameColor)]), 255);
     EXPECT_EQ(f.s->settings.FrameColor, "255");

@@ -108,6 +108,7 @@ TEST(ExternalTools, OpenEditorRowPassesTheFolderWithItsBlanksAsOneArgument)
     ASSERT_EQ(ui.started.size(), 1u);
     EXPECT_EQ(ui.started[0].program, "/usr/bin/webedit");
     EXPECT_EQ(ui.started[0].args, std::vector<std::string>{"/home/me/My Web Sites/club"});
+    EXPECT_EQ(ui.previewsHidden, 1);
 
     ScriptedPort noRow;
     EXPECT_FALSE(OpenEditorRow(Tools(), 2, noRow));

@@ -52,8 +52,9 @@ struct UiPort
     virtual std::optional<std::string> openFileDialog(const FileDialogOptions& options) = 0;
     virtual std::optional<std::string> saveFileDialog(const FileDialogOptions& options) = 0;
     virtual std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) = 0;
-    /// A colour dialog; colours are 24-bit values with red in the low byte.
-    virtual std::optional<long> chooseColor(long initial) = 0;
+    /// A colour dialog with its title; colours are 24-bit values with red in
+    /// the low byte.
+    virtual std::optional<long> chooseColor(long initial, std::string_view title) = 0;
 
     // Shell hooks. The defaults do nothing so that a headless port only
     // implements what it can show.

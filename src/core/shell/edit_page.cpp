@@ -249,7 +249,7 @@ long FieldColor(const EditField& field)
 bool ChangeColor(Session& s, UiPort& ui, EditState& st, int row)
 {
     EditField& f = st.fields.at(static_cast<size_t>(row));
-    const std::optional<long> chosen = ui.chooseColor(FieldColor(f));
+    const std::optional<long> chosen = ui.chooseColor(FieldColor(f), "COLORS");
     if (!chosen)
         return false;
     f.Value = std::to_string(*chosen);

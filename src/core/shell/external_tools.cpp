@@ -132,8 +132,10 @@ bool OpenEditorRow(const store::SetupStore& setup, int n, UiPort& ui)
         return false;
     }
     // the folder goes as one argument, blanks and all, never quoted
-    if (ui.startProgram(setup.WebEditorPath, {row->WebFolderPath}, ""))
+    if (ui.startProgram(setup.WebEditorPath, {row->WebFolderPath}, "")) {
+        ui.hidePreviews(); // the editor takes the screen
         return true;
+    }
     ui.message("The Path does not exist. " + std::string(kStartErrorText) + "\r\r" + std::string(kEditorHint),
                kEditorTitle, Icon::Critical);
     return false;

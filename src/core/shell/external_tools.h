@@ -31,7 +31,7 @@ bool OpenLiveRow(const store::SetupStore& setup, int n, UiPort& ui);
 
 /// OpenEditorRow(n) (Web1..15): starts the web editor with the WebFolderPath
 /// of row n - 1 as one argument, blanks and all. Each failure is told.
-/// Returns true when it was started.
+/// Returns true when it was started; the previews are hidden then.
 bool OpenEditorRow(const store::SetupStore& setup, int n, UiPort& ui);
 
 /// OpenTarget: opens up to three links, files or folders. A text with a "."

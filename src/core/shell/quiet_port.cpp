@@ -30,7 +30,7 @@ std::optional<std::string> QuietPort::browseForFolder(std::string_view, std::str
     return std::nullopt;
 }
 
-std::optional<long> QuietPort::chooseColor(long)
+std::optional<long> QuietPort::chooseColor(long, std::string_view)
 {
     return std::nullopt;
 }

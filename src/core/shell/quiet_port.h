@@ -16,7 +16,7 @@ struct QuietPort : UiPort
     std::optional<std::string> openFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> saveFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;
-    std::optional<long> chooseColor(long initial) override;
+    std::optional<long> chooseColor(long initial, std::string_view title) override;
 };
 
 } // namespace tq::shell
