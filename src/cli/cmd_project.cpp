@@ -5,6 +5,7 @@
 #include "console_port.h"
 #include "model/catalogue.h"
 #include "model/new_project.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
 #include "shell/publish_check.h"
@@ -42,13 +43,13 @@ int Usage(std::ostream& err, const std::string& why)
 // The mode word of the command line, or empty when it is neither.
 std::string ModeWord(const std::string& word)
 {
-    const std::string upper = store::Upper(word);
+    const std::string upper = model::ToUpper(word);
     return upper == "FORM" || upper == "SURVEY" ? upper : std::string();
 }
 
 std::string ModeOfFile(const std::string& path)
 {
-    return store::Upper(std::filesystem::path(path).extension().string()) == ".SRV" ? "SURVEY" : "FORM";
+    return model::ToUpper(std::filesystem::path(path).extension().string()) == ".SRV" ? "SURVEY" : "FORM";
 }
 
 // The folder named by "\Tarnquill.stt" in the fixed folder of this machine.

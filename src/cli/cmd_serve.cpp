@@ -5,6 +5,7 @@
 #include "cmd_serve.h"
 
 #include "commands.h"
+#include "model/text_ops.h"
 
 #include <algorithm>
 #include <arpa/inet.h>
@@ -102,14 +103,6 @@ bool Accepts(int port)
     return ok;
 }
 
-std::string Upper(std::string s)
-{
-    for (char& c : s)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return s;
-}
-
 } // namespace
 
 int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
@@ -180,7 +173,8 @@ int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostre
     }
     std::string page;
     for (const auto& e : fs::directory_iterator(site, ec))
-        if (Upper(e.path().extension().string()) == ".HTM" || Upper(e.path().extension().string()) == ".HTML")
+        if (model::ToUpper(e.path().extension().string()) == ".HTM" ||
+            model::ToUpper(e.path().extension().string()) == ".HTML")
             page = e.path().filename().string();
 
     const fs::path capture = root / "mail-capture.sh";

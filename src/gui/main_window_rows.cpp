@@ -8,6 +8,7 @@
 #include "model/editing.h"
 #include "model/new_project.h"
 #include "model/reorder.h"
+#include "model/text_ops.h"
 #include "pick_list.h"
 #include "port/platform.h"
 #include "qt_port.h"
@@ -26,7 +27,7 @@ model::ModeHooks MainWindow::modeHooks()
     hooks.busyMark = [this] { return m_session.run.busyMark; };
     hooks.loadInProgress = [this] { return m_session.run.LoadInProgress; };
     hooks.reloadHistoryMenus = [this](std::string_view mode) {
-        if (store::Upper(mode) == "SURVEY")
+        if (model::ToUpper(mode) == "SURVEY")
             store::RefreshSurveyList(m_session, *m_port);
         else
             store::RefreshFormList(m_session, *m_port);

@@ -4,6 +4,7 @@
 // 25, 50 or 100 rows are used. The cost must grow linearly with the rows.
 #include "bench_support.h"
 #include "build/build_driver.h"
+#include "model/text_ops.h"
 #include "session.h"
 #include "store/project_file.h"
 #include "store/text_file.h"
@@ -40,7 +41,7 @@ std::vector<model::Entry> SampleRows(const std::string& name, std::string* setup
         for (const auto& e : page) {
             if (e.InputTypeName.empty())
                 continue;
-            if (store::Upper(e.InputTypeName) == "SETUP") {
+            if (model::ToUpper(e.InputTypeName) == "SETUP") {
                 if (setup)
                     *setup = e.AttributeText;
                 continue;
@@ -77,7 +78,7 @@ std::unique_ptr<Session> MakeProject(bool survey, int count, const std::string& 
         const size_t row = static_cast<size_t>(n % model::kRowsPerPage);
         model::Entry e = rows[next % rows.size()];
         // a pair never starts in the last row of a Page
-        if (row == model::kRowsPerPage - 1 && store::Upper(e.InputTypeName).rfind("CONDITION", 0) == 0) {
+        if (row == model::kRowsPerPage - 1 && model::ToUpper(e.InputTypeName).rfind("CONDITION", 0) == 0) {
             e = {"Blank Line", "[New Line=1]\r\n[Info: lines]\r\n", "", false, model::Highlight::None};
         } else {
             ++next;

@@ -2,6 +2,7 @@
 // Opens arbitrary bytes as a show file. Checks that reading never fails
 // badly, that the fields read survive a save and a second read, and that the
 // open runs the fade switch and fills the output line.
+#include "model/text_ops.h"
 #include "port/ui_port.h"
 #include "session.h"
 #include "show/show_file.h"
@@ -50,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     if (port.messages != 0)
         std::abort(); // the load never speaks
     const tq::show::ShowPage& page = session.photoShow;
-    if (page.fadeFieldsEnabled != (tq::show::UpperCase(page.settings.UseFading) == "YES"))
+    if (page.fadeFieldsEnabled != (tq::model::ToUpper(page.settings.UseFading) == "YES"))
         std::abort();
     if (page.OutputLine != tq::show::ShowLink(page.settings))
         std::abort();

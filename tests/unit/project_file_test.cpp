@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/text_ops.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "store/project_file.h"
@@ -174,7 +175,7 @@ TEST_F(ProjectFlow, SaveAsksBeforeReplacingAndKeepsTheFileOnNo)
     EXPECT_EQ(port.shown.back().kind, "save");
     EXPECT_EQ(test::ReadFileBytes(path), store::FormatProjectFile(store::WriteEntries(s.store)));
     EXPECT_EQ(s.run.LastFormFile, path);
-    EXPECT_EQ(s.run.status.fileLabel, "FILE LOADED: " + store::Upper(path));
+    EXPECT_EQ(s.run.status.fileLabel, "FILE LOADED: " + model::ToUpper(path));
     EXPECT_EQ(test::ReadFileBytes(dir.file("FormHistory.txt")), path + "\r\n");
     EXPECT_EQ(s.run.busyMark, store::kIdle);
 

@@ -19,11 +19,11 @@ build::BuildState Built(const std::string& phpPath)
 {
     build::BuildState b;
     b.phpPath = phpPath;
-    b.flatList[1] = "Setup";
-    b.flatList[3] = "Name";
-    b.flatList[11] = "Cell Phone Number";
-    b.flatList[13] = "Email";
-    b.listLength = 14;
+    b.flatList.at(1) = "Setup";
+    b.flatList.at(3) = "Name";
+    b.flatList.at(11) = "Cell Phone Number";
+    b.flatList.at(13) = "Email";
+    b.flatList.EntryLineCount = 14;
     return b;
 }
 
@@ -62,7 +62,7 @@ TEST(PublishCheck, NamesTheInputTypeWhoseFieldNameBreaksTheScript)
 TEST(PublishCheck, WithoutABrokenNameTheWarningCarriesPhpsWords)
 {
     auto b = Built("/w/formtql.php");
-    b.flatList[11] = "Phone Number";
+    b.flatList.at(11) = "Phone Number";
     EXPECT_EQ(PublishWarning(b, kRefused, kScript),
               "WARNING: PHP cannot run formtql.php (line 3): syntax error, unexpected integer \"11\"");
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/text_ops.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "store/recent_history.h"
@@ -38,7 +39,7 @@ class Recent : public ::testing::Test
 TEST_F(Recent, SavedNameMovesToTheFrontIgnoringCase)
 {
     const std::string a = Project("a.fms"), b = Project("b.fms"), c = Project("c.fms");
-    test::WriteFileBytes(Forms(), a + "\r\n\r\n" + store::Upper(b) + "\r\n" + c + "\r\n");
+    test::WriteFileBytes(Forms(), a + "\r\n\r\n" + model::ToUpper(b) + "\r\n" + c + "\r\n");
     s.run.CurrentProjectName = b;
     store::UpdateRecentList(s, port);
     EXPECT_EQ(test::ReadFileBytes(Forms()), b + "\r\n" + a + "\r\n" + c + "\r\n");
@@ -112,7 +113,7 @@ TEST_F(Recent, PhotoListBacksUpAndDisablesWithoutAFile)
     EXPECT_EQ(test::ReadFileBytes(dir.file("historybak.txt")), show + "\r\n" + show + "\r\n");
 
     bool failed = false;
-    store::RemoveHistoryLine(dir.file("history.txt"), store::Upper("one.SHW"), failed);
+    store::RemoveHistoryLine(dir.file("history.txt"), model::ToUpper("one.SHW"), failed);
     EXPECT_FALSE(failed);
     EXPECT_EQ(test::ReadFileBytes(dir.file("history.txt")), "");
     store::RemoveHistoryLine(dir.file("history.txt"), "x", failed);

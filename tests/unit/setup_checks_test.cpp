@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/check_text.h"
 #include "build/extraction.h"
 #include "build/setup_checks.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "scripted_port.h"
 #include "session.h"
@@ -238,7 +238,7 @@ TEST_F(LineChecks, SetupKeys)
     EXPECT_EQ(Check("TQL Output File", "c:formtql.htm"), "TQL OUTPUT FILE\rCANNOT CONTAIN A : IN THE FILENAME");
     EXPECT_EQ(Check("Drive Folder Path", dir.path()), "");
     EXPECT_EQ(Check("Drive Folder Path", dir.path() + "/gone"),
-              tq::build::Upper(dir.path() + "/gone") +
+              tq::model::ToUpper(dir.path() + "/gone") +
                   "\rFOLDER DOES NOT EXIST\r\rCHANGE THE FOLDER PATH TO A VALID FOLDER\r\r"
                   "USE THE EDIT BUTTON TO BROWSE FOR YOUR FOLDER PATH");
 }

@@ -8,6 +8,7 @@
 #include "html/headings.h"
 #include "html/page_shell.h"
 #include "model/reorder.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 
 #include <algorithm>
@@ -21,23 +22,6 @@
 namespace tq::build {
 
 namespace {
-
-std::string Upper(std::string_view s)
-{
-    std::string out(s);
-    std::transform(out.begin(), out.end(), out.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return out;
-}
-
-std::string Trim(std::string_view s)
-{
-    size_t a = s.find_first_not_of(' ');
-    if (a == std::string_view::npos)
-        return {};
-    size_t e = s.find_last_not_of(' ');
-    return std::string(s.substr(a, e - a + 1));
-}
 
 bool EndsInSeparator(std::string_view folder)
 {
@@ -152,9 +136,9 @@ void CopyLines(BuildState& b, const std::string& from)
 void DispatchList(Session& s, UiPort& ui, int pass)
 {
     auto& b = s.build;
-    for (int i = 1; i + 1 <= b.listLength; i += 2) {
-        const std::string inputType = b.flatList.at(static_cast<size_t>(i));
-        const std::string text = b.flatList.at(static_cast<size_t>(i + 1));
+    for (int i = 1; i + 1 <= b.flatList.EntryLineCount; i += 2) {
+        const std::string& inputType = b.flatList.at(i);
+        const std::string& text = b.flatList.at(i + 1);
         if (pass == 2)
             b.lastPhpSlot = i;
         html::DispatchEntry(s, ui, pass, html::FieldName(inputType, i), inputType, text);
@@ -184,7 +168,7 @@ std::string ComposeHtmlPath(std::string_view webFolder, std::string_view outputN
 
 std::string ComposeFormAction(std::string_view outputName)
 {
-    const size_t pos = Upper(outputName).find(".HTM");
+    const size_t pos = model::FindNoCase(outputName, ".HTM");
     const size_t cut = pos == std::string::npos ? 0 : pos + 1;
     return std::string(outputName.substr(0, cut)) + "php";
 }
@@ -197,7 +181,7 @@ std::string ComposePhpPath(std::string_view webFolder, std::string_view outputNa
 std::string PeekDriveFolderPath(std::string_view setupText)
 {
     static constexpr std::string_view kKey = "[DRIVE FOLDER PATH=";
-    const size_t pos = Upper(setupText).find(kKey);
+    const size_t pos = model::FindNoCase(setupText, kKey);
     if (pos == std::string::npos)
         return {};
     const size_t start = pos + kKey.size();
@@ -218,21 +202,6 @@ bool FolderTest(std::string_view webFolder)
     }
     std::error_code ec;
     return std::filesystem::remove(path, ec) && !ec;
-}
-
-void GatherFlatList(const model::EntryStore& store, BuildState& b)
-{
-    b.listLength = 0;
-    for (auto& slot : b.flatList)
-        slot.clear();
-    for (const auto& page : store.pages)
-        for (const auto& e : page) {
-            if (Trim(e.InputTypeName).empty())
-                continue;
-            b.flatList.at(static_cast<size_t>(b.listLength + 1)) = e.InputTypeName;
-            b.flatList.at(static_cast<size_t>(b.listLength + 2)) = e.AttributeText;
-            b.listLength += 2;
-        }
 }
 
 void CreateHTMHeader(Session& s, UiPort& ui, int& abort)
@@ -413,7 +382,7 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
 
         // 4
         if (!b.entryPreview)
-            GatherFlatList(s.store, b);
+            model::FillFlatList(s.store, b.flatList);
 
         // 5
         b.passActive = true;
@@ -424,7 +393,7 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
             t.clear();
         if (!b.entryPreview) {
             ReorderForBuild(s, ui);
-            GatherFlatList(s.store, b);
+            model::FillFlatList(s.store, b.flatList);
         }
 
         // 6 to 8

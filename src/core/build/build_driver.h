@@ -30,10 +30,6 @@ std::string PeekDriveFolderPath(std::string_view setupText);
 /// Returns false when the file could not be written.
 bool FolderTest(std::string_view webFolder);
 
-/// Gathers the flat list from the four Pages, Page 1 to 4 and rows 0 to 24,
-/// rows in use only (a name that is not blank). Sets `listLength`.
-void GatherFlatList(const model::EntryStore& store, BuildState& b);
-
 /// Reads the SetupEntry, settles `htmlPath`, `phpPath` and `formAction`,
 /// asks about existing output files, opens the HTML file on channel 1 and
 /// writes the head of the page. Sets `abort` to 1 when the build must stop

@@ -52,9 +52,9 @@ struct BuildState
     /// keeps the subject of the last build of this run.
     std::string mailSubject;
 
-    // the flat list of the build: slot 2k-1 the Input Type, slot 2k the AttributeText
-    std::array<std::string, model::kMaxFlatLines + 1> flatList;
-    int listLength = 0;
+    /// The flat list of the build: line 2k-1 the Input Type, line 2k the
+    /// AttributeText. Not gathered for an Entry preview, which keeps the last one.
+    model::FlatList flatList;
 
     bool FrameOpened = false; // the frame tables are written at most once per build
     int lastPhpSlot = 0;      // the last slot the PHP pass handled; kept from build to build

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/extraction.h"
 
-#include "build/check_text.h"
 #include "build/setup_checks.h"
 #include "build/validation.h"
 #include "html/globals.h"
 #include "model/attribute_text.h"
+#include "model/text_ops.h"
 #include "session.h"
 
 namespace tq::build {
@@ -42,7 +42,7 @@ struct Reader
     /// An item read and dropped, only when the text starts with it.
     bool optional(std::string_view k)
     {
-        if (!StartsWithUpper(LeftTrim(text), k))
+        if (!model::StartsWithNoCase(model::LTrim(text), k))
             return true;
         std::string dropped;
         return key(k, dropped);
@@ -62,11 +62,11 @@ struct Reader
     /// The shade pair, read only when the text starts with it.
     bool shade()
     {
-        if (!StartsWithUpper(LeftTrim(text), "[SHADE WIDTH"))
+        if (!model::StartsWithNoCase(model::LTrim(text), "[SHADE WIDTH"))
             return true;
         if (!kc("[SHADE WIDTH", v.ShadeWidth))
             return false;
-        if (!Contains(v.ShadeWidth, "%"))
+        if (!model::Contains(v.ShadeWidth, "%"))
             v.ShadeWidth = model::ColorToHex(v.ShadeWidth);
         if (!kc("[SHADE COLOR", v.ShadeColor))
             return false;
@@ -82,10 +82,10 @@ struct Reader
         std::string value;
         if (!key(k, value))
             return false;
-        if (Upper(value) == "NONE")
+        if (model::ToUpper(value) == "NONE")
             value.clear();
         if (listType && !text.empty() && text.front() == ',')
-            text = LeftTrim(std::string_view(text).substr(1));
+            text = std::string(model::LTrim(std::string_view(text).substr(1)));
         v.DefaultValue = value;
         if (split)
             v.DefaultLines = model::SplitLines(value);
@@ -109,7 +109,7 @@ struct Reader
     /// build is an Entry preview.
     bool checkBackslash(const std::string& value)
     {
-        return !Contains(value, "\\") || fail(kBackslashText, "ERROR", Icon::Critical);
+        return !model::Contains(value, "\\") || fail(kBackslashText, "ERROR", Icon::Critical);
     }
     bool checkSemicolon(const std::string& value)
     {
@@ -122,14 +122,14 @@ struct Reader
     {
         if (s.build.entryPreview)
             return true;
-        const std::string head = "INPUT TYPE -> " + Upper(type) + "\r FOR ->LINK TO\r";
-        if (Upper(v.LinkTo) == "NONE")
-            return fail(head + "CANNOT BE SET TO " + Upper(v.LinkTo) +
+        const std::string head = "INPUT TYPE -> " + model::ToUpper(type) + "\r FOR ->LINK TO\r";
+        if (model::ToUpper(v.LinkTo) == "NONE")
+            return fail(head + "CANNOT BE SET TO " + model::ToUpper(v.LinkTo) +
                             "\r YOU MUST HAVE WEB PAGE LINK.\r\r"
                             "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN HE CLICKS ON THE CANCEL BUTTON"
                             "\r\rExample: index.htm\r\rCLICK ON EDIT AND ADD A WEB LINK",
                         "CANCEL INPUT TYPE HAS AN ERROR", Icon::Exclamation);
-        if (!Contains(v.LinkTo, "."))
+        if (!model::Contains(v.LinkTo, "."))
             return fail(head + "DOES NOT HAVE A VALID URL WEB LINK. MISSING THE PERIOD\r\rExample: index.htm\r\r"
                                "CLICK ON EDIT AND CORRECT THE PROBLEM",
                         "CANCEL INPUT TYPE HAS AN ERROR", Icon::Exclamation);
@@ -296,7 +296,7 @@ bool ReadRow(Reader& r, const std::string& t, std::string_view inputType)
             r.choices() && r.ki("[REQUIRED", v.REQ);
     } else if (starts("QUESTION")) {
         r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
-            (!StartsWithUpper(LeftTrim(r.text), "[DEFAULT QUESTION") ||
+            (!model::StartsWithNoCase(model::LTrim(r.text), "[DEFAULT QUESTION") ||
              r.defaultValue("[DEFAULT QUESTION", true, true)) &&
             r.info() && r.list("[", v.Choices) && r.info() && r.optional("[DEFAULT VALUE") && r.kc("[ALIGN", v.ALIGN) &&
             r.shade() && r.styles() && r.choices() && r.ki("[REQUIRED", v.REQ);
@@ -332,11 +332,11 @@ bool TakeEndMark(Session& s, UiPort& ui, std::string& text, std::string_view exp
 {
     // The help item behind a key may be of either kind: the one that stands
     // there is taken. Anything else is read as the expected kind and refused.
-    const std::string front = LeftTrim(text);
+    const std::string_view front = model::LTrim(text);
     std::string_view key = expected;
-    if (StartsWithUpper(front, "[INFO"))
+    if (model::StartsWithNoCase(front, "[INFO"))
         key = "[INFO:";
-    else if (StartsWithUpper(front, "[CHOICES"))
+    else if (model::StartsWithNoCase(front, "[CHOICES"))
         key = "[CHOICES";
     std::string dropped;
     return TakeKey(s, ui, text, key, dropped);
@@ -345,7 +345,7 @@ bool TakeEndMark(Session& s, UiPort& ui, std::string& text, std::string_view exp
 void ExtractEntry(Session& s, UiPort& ui, std::string_view inputType, std::string& text)
 {
     FixLineBreaks(text);
-    const std::string t = Upper(inputType);
+    const std::string t = model::ToUpper(inputType);
     if (t == "SETUP") {
         ExtractSetupEntry(s, ui, text);
         return;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/setup_checks.h"
 
-#include "build/check_text.h"
 #include "build/extraction.h"
 #include "model/attribute_text.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
 
@@ -58,7 +58,7 @@ void ExtractSetupEntry(Session& s, UiPort& ui, std::string& text)
     const std::string& mode = s.store.state.ProjectMode;
     const bool preview = s.build.entryPreview;
 
-    if (StartsWithUpper(LeftTrim(text), "[BACKGROUND COLOR=") &&
+    if (model::StartsWithNoCase(model::LTrim(text), "[BACKGROUND COLOR=") &&
         !ReadSetupKey(s, ui, text, "[BACKGROUND COLOR", v.BackgroundColor))
         return;
     if (!ReadSetupKey(s, ui, text, "[DRIVE FOLDER PATH", v.WebFolder) ||
@@ -95,14 +95,14 @@ void ExtractSetupEntry(Session& s, UiPort& ui, std::string& text)
                     ReadSetupKey(s, ui, text, "[TOTAL FRAMES", totalFrames);
     if (!ok)
         return;
-    if (Upper(v.EMAIL2) == "NONE")
+    if (model::ToUpper(v.EMAIL2) == "NONE")
         v.EMAIL2.clear();
-    if (Upper(v.EMAIL3) == "NONE")
+    if (model::ToUpper(v.EMAIL3) == "NONE")
         v.EMAIL3.clear();
-    v.TotalFrames = static_cast<int>(LeadingNumber(totalFrames));
+    v.TotalFrames = static_cast<int>(model::LeadingWhole(totalFrames, 100000000L));
 
     // The mode's own values: the frame belongs to a FORM only.
-    v.FrameOff = (Upper(mode) == "FORM" && Upper(v.IncludeFrame) == "YES") ? 0 : 1;
+    v.FrameOff = (model::ToUpper(mode) == "FORM" && model::ToUpper(v.IncludeFrame) == "YES") ? 0 : 1;
     v.BackgroundColorHex = model::ColorToHex(v.BackgroundColor);
     v.SubmitButtonColorHex = model::ColorToHex(v.SubmitButtonColor);
     v.FrameBorderColorHex = model::ColorToHex(v.FrameBorderColor);
@@ -140,11 +140,11 @@ struct LineCheck
 
     std::string fileNameTests() const
     {
-        if (!Contains(V, ".HTM"))
+        if (!model::Contains(V, ".HTM"))
             return K + "\rMUST CONTAIN AN EXTENSION OF .HTM";
-        if (Contains(V, "\\"))
+        if (model::Contains(V, "\\"))
             return K + "\rCANNOT CONTAIN A \\ IN THE FILENAME";
-        if (Contains(V, ":"))
+        if (model::Contains(V, ":"))
             return K + "\rCANNOT CONTAIN A : IN THE FILENAME";
         return {};
     }
@@ -161,7 +161,7 @@ struct LineCheck
         if (semicolon())
             return K + "\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB SERVER PATH\r\r" + note + example +
                    "\r\rPLEASE REMOVE THE SEMI-COLON(;) AND ENTER YOUR OWN WEB SERVER PATH";
-        if (!Contains(value, "."))
+        if (!model::Contains(value, "."))
             return K + "\rDOES NOT HAVE A VALID URL WEB LINK. MISSING\rwww." + example;
         return spaceTest();
     }
@@ -191,7 +191,7 @@ struct LineCheck
     {
         std::string t;
         // 1
-        if (value.size() == 2 && (Contains(value, "\r") || Contains(value, "\n")))
+        if (value.size() == 2 && (model::Contains(value, "\r") || model::Contains(value, "\n")))
             return K + "\rCANNOT BE LEFT BLANK";
         // 2, 3
         if (K == "TITLE" && value.size() < 3)
@@ -204,7 +204,7 @@ struct LineCheck
                 return K + "\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB PAGE LINK.\r\r"
                            "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN THE USER CLICKS ON THE CANCEL "
                            "BUTTON\r\rExample: index.htm";
-            if (!Contains(value, "."))
+            if (!model::Contains(value, "."))
                 return K + "\rDOES NOT HAVE A VALID URL WEB LINK. MISSING THE PERIOD\r\rExample: index.htm";
             if (!(t = spaceTest()).empty())
                 return t;
@@ -245,14 +245,14 @@ struct LineCheck
             const size_t percent = value.find('%');
             if (percent == std::string::npos)
                 return K + "\rMUST HAVE A % AFTER THE " + K + "\rEXAMPLE: 40%";
-            if (!IsNumeric(value.substr(0, percent)))
+            if (!model::IsNumeric(value.substr(0, percent)))
                 return K + "\rMUST HAVE A NUMBER";
         }
         // 22
         if (is({"TOTAL FRAMES", "BLANK LINE", "LINE SIZE", "COMMENTS HEIGHT", "COMMENTS WIDTH", "WIDTH",
                 "FOLLOWUP WIDTH", "FOLLOWUP HEIGHT", "TITLE SIZE", "PICTURE WIDTH", "PICTURE HEIGHT", "VIDEO WIDTH",
                 "VIDEO HEIGHT"}) &&
-            !IsNumeric(value))
+            !model::IsNumeric(value))
             return K + "\rMUST HAVE A NUMBER";
         // 23, 24
         if (is({"BOLD", "ITALICS"}) && V != "ON" && V != "OFF")
@@ -274,9 +274,9 @@ struct LineCheck
                            "USE THE EDIT BUTTON TO BROWSE FOR YOUR FOLDER PATH";
         }
         // 27, 28
-        if (K == "FROM" && Contains(value, "????"))
+        if (K == "FROM" && model::Contains(value, "????"))
             return K + "\rCANNOT HAVE ????\r\rCHANGE THE ????? TO A VALID NAME";
-        if (K == "FROM" && Contains(value, "@"))
+        if (K == "FROM" && model::Contains(value, "@"))
             return K + "\rCANNOT HAVE A @ SYMBOL\r\rREMOVE THE " + value + "\r SYMBOL";
         // 29 to 33
         if (K == "EMAIL #1") {
@@ -289,11 +289,11 @@ struct LineCheck
                        std::string(platform::kSampleEmail);
             if (V == "NONE" || V == "????")
                 return V + "\rIS NOT A VALID EMAIL ADDRESS\r\rREPLACE " + V + "\r WITH A VALID EMAIL ADDRESS";
-            if (Trim(value).empty())
+            if (model::Trim(value).empty())
                 return K + "\rCANNOT BE LEFT BLANK";
-            if (!Contains(value, "@"))
+            if (!model::Contains(value, "@"))
                 return V + "\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ SYMBOL";
-            if (!Contains(value, "."))
+            if (!model::Contains(value, "."))
                 return V + "\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD";
             // A third test for a missing "." ("REQUIRES A dot") stood here; the
             // test above catches every such value first, so it is left out.
@@ -304,18 +304,18 @@ struct LineCheck
                 return t;
             if (V == "NONE")
                 return {};
-            if (!Contains(value, ".")) {
+            if (!model::Contains(value, ".")) {
                 noneValue = true;
                 return otherEmailText("REQUIRES A @ PERIOD");
             }
-            if (!Contains(value, "@")) {
+            if (!model::Contains(value, "@")) {
                 noneValue = true;
                 return otherEmailText("REQUIRES A @ SYMBOL");
             }
         }
         // 37, 38
         if (K != "GLOBAL TEXT COLOR") {
-            if (Trim(value).empty())
+            if (model::Trim(value).empty())
                 return K + "\rCANNOT BE LEFT BLANK";
             if (value == "????")
                 return K + "\rCANNOT HAVE A ????";
@@ -332,10 +332,10 @@ void CheckAttribute(Session& s, UiPort& ui, std::string_view key, std::string& v
     if (s.store.state.commitMode == 11)
         return;
     LineCheck check;
-    check.key = Trim(key);
-    check.K = Upper(check.key);
+    check.key = model::Trim(key);
+    check.K = model::ToUpper(check.key);
     check.value = value;
-    check.V = Upper(value);
+    check.V = model::ToUpper(value);
     check.mode = s.store.state.ProjectMode;
     check.commitMode = s.store.state.commitMode;
     bool noneValue = false;

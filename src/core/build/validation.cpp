@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/validation.h"
 
-#include "build/check_text.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
 
@@ -90,7 +90,7 @@ void ReportUnknownType(Session& s, UiPort& ui, int slot, std::string_view inputT
         LocateEntry(slot, row, page);
         ui.showView(PageView(page)); // the port hides the other views
         ui.selectRow(page, row);
-        const std::string type = Upper(inputType);
+        const std::string type = model::ToUpper(inputType);
         ui.message(type + " is not a valid input type.\r\rPlease remove the " + type + " from the list", "ERROR",
                    Icon::Critical);
     } catch (const std::exception& e) {
@@ -122,7 +122,7 @@ void RewriteAttribute(Session& s, std::string_view key, std::string_view value, 
 {
     const std::string scratch = platform::JoinPath(s.DataFolder, "\\temp11.txt");
     const std::string rewritten = platform::JoinPath(s.DataFolder, "\\temp.txt");
-    const std::string upperKey = Upper(key);
+    const std::string upperKey = model::ToUpper(key);
     try {
         LineWriter& ch3 = s.build.channels[3];
         ch3.close();
@@ -146,7 +146,7 @@ void RewriteAttribute(Session& s, std::string_view key, std::string_view value, 
         std::string result;
         for (const std::string& line : SplitFileLines(bytes)) {
             std::string out = line;
-            const size_t pos = Upper(line).find(upperKey);
+            const size_t pos = model::ToUpper(line).find(upperKey);
             if (pos != std::string::npos)
                 out = line.substr(pos, upperKey.size()) + "=" + std::string(value) + "]";
             ch2.line(out);
@@ -171,7 +171,7 @@ bool KeepPairTogether(model::EntryStore& store, int page, int row)
     if (page < 1 || page > model::kPageCount || row < 0 || row >= model::kRowsPerPage - 1)
         return false;
     auto& rows = store.pages[static_cast<size_t>(page - 1)];
-    const std::string name = Upper(rows[static_cast<size_t>(row)].InputTypeName);
+    const std::string name = model::ToUpper(rows[static_cast<size_t>(row)].InputTypeName);
     // The download test compares ten characters with the whole 28-character
     // name, so it never holds: a download pair keeps separate numbers.
     const bool download = name.substr(0, 10) == "DOWNLOAD FILES WITH PASSWORD";
@@ -184,22 +184,22 @@ bool KeepPairTogether(model::EntryStore& store, int page, int row)
 
 bool IsConditionType(std::string_view inputType)
 {
-    return Upper(inputType.substr(0, 9)) == "CONDITION";
+    return model::ToUpper(inputType.substr(0, 9)) == "CONDITION";
 }
 
 bool IsFollowupType(std::string_view inputType)
 {
-    return Upper(inputType.substr(0, 8)) == "FOLLOWUP";
+    return model::ToUpper(inputType.substr(0, 8)) == "FOLLOWUP";
 }
 
 bool IsDownloadKey(std::string_view key)
 {
-    return Upper(key.substr(0, 5)) == "DOWNL";
+    return model::ToUpper(key.substr(0, 5)) == "DOWNL";
 }
 
 bool IsConditionKey(std::string_view key)
 {
-    return Upper(key.substr(0, 5)) == "CONDI";
+    return model::ToUpper(key.substr(0, 5)) == "CONDI";
 }
 
 } // namespace tq::build

@@ -4,6 +4,7 @@
 #include "html/conditions.h"
 #include "html/headings.h"
 #include "html/html_text.h"
+#include "model/text_ops.h"
 #include "session.h"
 
 namespace tq::html {
@@ -64,7 +65,7 @@ void CheckNoValue(Session& s, UiPort& ui, const std::string& title)
 
 bool IsDefaultChoice(std::string_view defaultValue, std::string_view choice)
 {
-    return UpperText(TrimText(defaultValue)) == UpperText(TrimText(choice));
+    return model::ToUpper(model::Trim(defaultValue)) == model::ToUpper(model::Trim(choice));
 }
 
 std::string RadioTag(std::string_view choice)
@@ -94,7 +95,7 @@ void WriteSurveyChoices(Session& s,
                         std::string_view required)
 {
     auto& out = Out(s);
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     if (title.empty()) {
         WriteItalicClose(s);
         WriteShadeClose(s);
@@ -103,7 +104,7 @@ void WriteSurveyChoices(Session& s,
     RecordChoices(s, field, title, t);
     out.line("");
     WriteSurveyHeading(s, title, required, inputType);
-    if (t == "FOLLOWUP WITH MULTIPLE CHOICES" || BeginsWith(t, "QUESTION->")) {
+    if (t == "FOLLOWUP WITH MULTIPLE CHOICES" || model::StartsWithNoCase(t, "QUESTION->")) {
         WriteFollowupChoices(s, field, inputType);
         WriteShadeClose(s);
         return;
@@ -134,11 +135,12 @@ void WriteFormChoices(Session& s,
                       std::string_view required)
 {
     auto& out = Out(s);
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     RecordChoices(s, field, title, t);
     out.line("");
     WriteFormHeading(s, title, required, inputType);
-    if (t == "FOLLOWUP WITH DROPDOWN" || t == "FOLLOWUP WITH MULTIPLE CHOICES" || BeginsWith(t, "QUESTION->")) {
+    if (t == "FOLLOWUP WITH DROPDOWN" || t == "FOLLOWUP WITH MULTIPLE CHOICES" ||
+        model::StartsWithNoCase(t, "QUESTION->")) {
         WriteFollowupChoices(s, field, inputType);
         return;
     }
@@ -155,7 +157,7 @@ void WriteFormChoices(Session& s,
                 WriteIndent11(s);
             else
                 WriteIndent5(s);
-        } else if (BeginsWith(t, "QUESTION")) {
+        } else if (model::StartsWithNoCase(t, "QUESTION")) {
             if (i == 0) {
                 WriteIndent11(s);
             } else if (t == "QUESTION YESNO VERTICAL REQUIRED") {
@@ -222,7 +224,7 @@ void WriteFormCheckboxes(Session& s,
     if (s.build.buildError == 1)
         return;
     auto& out = Out(s);
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     if (!title.empty()) {
         RecordQuestion(s.build, field, title, inputType);
         out.line("");

@@ -4,6 +4,7 @@
 #include "html/choice_inputs.h"
 #include "html/headings.h"
 #include "html/html_text.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
 
@@ -17,15 +18,6 @@ namespace {
 build::LineWriter& Out(Session& s)
 {
     return s.build.channels[1];
-}
-
-void ReplaceAll(std::string& text, std::string_view from, std::string_view to)
-{
-    size_t at = 0;
-    while ((at = text.find(from, at)) != std::string::npos) {
-        text.replace(at, from.size(), to);
-        at += to.size();
-    }
 }
 
 // The text through the scratch file: written with its line end and read back whole.
@@ -90,7 +82,7 @@ void WriteConditionDropdown(Session& s,
         }
         WriteStyleClose(s);
         out.line("</font>");
-        if (BeginsWith(inputType, "CONDITION"))
+        if (model::StartsWithNoCase(inputType, "CONDITION"))
             WriteStyleClose(s);
     }
     WriteShadeClose(s);
@@ -117,8 +109,9 @@ void WriteFollowupChoices(Session& s, std::string_view field, std::string_view i
     WriteItalicClose(s);
     out.line("</font>");
     if (!IsSurvey(s)) {
-        const std::string t = UpperText(inputType);
-        if (BeginsWith(t, "QUESTION") || t == "FOLLOWUP WITH DROPDOWN" || t == "FOLLOWUP WITH MULTIPLE CHOICES")
+        const std::string t = model::ToUpper(inputType);
+        if (model::StartsWithNoCase(t, "QUESTION") || t == "FOLLOWUP WITH DROPDOWN" ||
+            t == "FOLLOWUP WITH MULTIPLE CHOICES")
             out.line("<br>");
     }
 }
@@ -131,10 +124,10 @@ void WriteDownloadList(Session& s)
     out.line("<p align=" + Quoted(v.ALIGN) + "><font face=" + Quoted(kFace) + "color=" + Quoted(v.TextColorHex) +
              " size=" + Quoted("3") + ">");
     WriteItalicOpen(s);
-    const bool labels = UpperText(v.ShowFileLabels) == "YES";
-    const bool left = UpperText(v.ALIGN) == "LEFT";
+    const bool labels = model::ToUpper(v.ShowFileLabels) == "YES";
+    const bool left = model::ToUpper(v.ALIGN) == "LEFT";
     for (int i = 1; i <= b.downloadFileCount && i <= build::kDownloadFileSlots; ++i) {
-        if (UpperText(v.VisibleDownload) == "NO" || UpperText(v.VisibleDownloadPassword) == "NO")
+        if (model::ToUpper(v.VisibleDownload) == "NO" || model::ToUpper(v.VisibleDownloadPassword) == "NO")
             break;
         // a number's text keeps its leading blank: the label reads "File  1:"
         const std::string number = " " + std::to_string(i);
@@ -157,23 +150,23 @@ void WriteDownloadList(Session& s)
 
 std::string TextToAttribute(const std::string& dataFolder, const std::string& text, bool keepBlanks)
 {
-    if (UpperText(text) == "NONE" || text.size() < 5)
+    if (model::ToUpper(text) == "NONE" || text.size() < 5)
         return text;
     std::string value = ThroughScratchFile(dataFolder, text);
-    ReplaceAll(value, "\r\n", "\\n");
-    ReplaceAll(value, "\n", "\\n"); // a line end typed on this platform may be a lone LF
+    model::ReplaceAll(value, "\r\n", "\\n");
+    model::ReplaceAll(value, "\n", "\\n"); // a line end typed on this platform may be a lone LF
     while (value.size() >= 2 && value.compare(value.size() - 2, 2, "\\n") == 0)
         value.erase(value.size() - 2);
     if (!keepBlanks) {
-        ReplaceAll(value, "  ", "&nbsp;");
-        ReplaceAll(value, "\t", "&nbsp;&nbsp;&nbsp;");
+        model::ReplaceAll(value, "  ", "&nbsp;");
+        model::ReplaceAll(value, "\t", "&nbsp;&nbsp;&nbsp;");
     }
     return value;
 }
 
 std::string AttributeToText(const std::string& dataFolder, const std::string& text)
 {
-    if (UpperText(text) == "NONE")
+    if (model::ToUpper(text) == "NONE")
         return text;
     std::string value = ThroughScratchFile(dataFolder, text);
     if (value.size() >= 2 && value.compare(value.size() - 2, 2, "\r\n") == 0)
@@ -187,7 +180,7 @@ std::string AttributeToText(const std::string& dataFolder, const std::string& te
             out += value[i++];
         }
     }
-    ReplaceAll(out, "&nbsp;", "  ");
+    model::ReplaceAll(out, "&nbsp;", "  ");
     return out;
 }
 

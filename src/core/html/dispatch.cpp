@@ -9,6 +9,7 @@
 #include "html/tables.h"
 #include "html/text_inputs.h"
 #include "html/titles_lines.h"
+#include "model/text_ops.h"
 
 #include <utility>
 
@@ -139,7 +140,7 @@ void WriteQuestion(Session& s, UiPort& ui, EntryWriter writer, const std::string
 
 DispatchRow LookUpEntry(std::string_view inputType)
 {
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     for (const auto& row : kTable)
         if (row.type == t)
             return {row.writer, row.php};
@@ -189,7 +190,7 @@ void DispatchEntry(Session& s,
     auto& v = b.values;
     ClearEntryValues(v);
     const DispatchRow row = LookUpEntry(inputType);
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     std::string text = attributeText;
 
     if (row.writer == EntryWriter::HorizontalLine) {
@@ -212,7 +213,7 @@ void DispatchEntry(Session& s,
         return;
     }
 
-    const bool survey = UpperText(s.store.state.ProjectMode) == "SURVEY";
+    const bool survey = model::ToUpper(s.store.state.ProjectMode) == "SURVEY";
     switch (row.writer) {
     case EntryWriter::None:
     case EntryWriter::HorizontalLine:

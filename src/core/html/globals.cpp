@@ -4,6 +4,7 @@
 #include "html/headings.h"
 #include "html/html_text.h"
 #include "model/attribute_text.h"
+#include "model/text_ops.h"
 #include "session.h"
 
 namespace tq::html {
@@ -12,7 +13,7 @@ void ApplyGlobals(Session& s)
 {
     auto& setup = s.build.setupValues;
     auto& v = s.build.values;
-    if (UpperText(setup.GlobalAlign) != "NONE") {
+    if (model::ToUpper(setup.GlobalAlign) != "NONE") {
         setup.SubmitAlign = setup.GlobalAlign;
         v.ALIGN = setup.GlobalAlign;
         v.LineAlign = setup.GlobalAlign;
@@ -23,7 +24,7 @@ void ApplyGlobals(Session& s)
             v.TextColorHex = "0";
         }
     }
-    if (UpperText(setup.GlobalTextColor) != "NONE") {
+    if (model::ToUpper(setup.GlobalTextColor) != "NONE") {
         v.TextColor = setup.GlobalTextColor;
         v.TextColorHex = model::ColorToHex(setup.GlobalTextColor);
     }

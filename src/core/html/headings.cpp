@@ -2,6 +2,7 @@
 #include "html/headings.h"
 
 #include "html/html_text.h"
+#include "model/text_ops.h"
 #include "session.h"
 
 namespace tq::html {
@@ -15,13 +16,13 @@ build::LineWriter& Out(Session& s)
 
 bool IsOn(std::string_view value)
 {
-    return UpperText(value) == "ON";
+    return model::ToUpper(value) == "ON";
 }
 
 // The pair rule: a condition and its followup share one number, "4a" and "4b".
 std::string PairNumber(int& counter, std::string_view inputType)
 {
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     if (t == "DOWNLOAD FILES WITH PASSWORD" || t == "CONDITION WITH COMMENT" ||
         t == "CONDITION WITH MULTIPLE CHOICES" || t == "CONDITION WITH DROPDOWN") {
         ++counter;
@@ -36,7 +37,7 @@ std::string PairNumber(int& counter, std::string_view inputType)
 
 std::string ForcedRequired(std::string_view required, std::string_view inputType)
 {
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     if (t == "DOWNLOAD FILES WITH PASSWORD" || t == "FOLLOWUP FILES WITH PASSWORD")
         return "yes";
     return std::string(required);
@@ -152,23 +153,23 @@ bool IsFormA(const std::string& t)
     for (const char* k : kTypes)
         if (t == k)
             return true;
-    return BeginsWith(t, "COMMENTS") || BeginsWith(t, "CONDITION");
+    return model::StartsWithNoCase(t, "COMMENTS") || model::StartsWithNoCase(t, "CONDITION");
 }
 
 void WriteSurveyLines(Session& s, std::string_view required, const std::string& t)
 {
-    if (BeginsWith(t, "TITLE")) {
+    if (model::StartsWithNoCase(t, "TITLE")) {
         WriteFormA(s);
         return;
     }
     auto& lines = s.build.TitleLines;
-    if (UpperText(required) == "YES" && lines.count() > 0)
+    if (model::ToUpper(required) == "YES" && lines.count() > 0)
         lines.items[0] = "* " + lines.items[0];
     if (IsFormA(t))
         WriteFormA(s);
     else if (t == "FOLLOWUP WITH DROPDOWN")
         WriteFormB(s);
-    else if (BeginsWith(t, "CHECKBOX"))
+    else if (model::StartsWithNoCase(t, "CHECKBOX"))
         WriteFormC(s);
     else
         WriteFormD(s);
@@ -180,17 +181,17 @@ std::string FieldName(std::string_view inputType, int position)
 {
     std::string name(inputType.substr(0, 5));
     name += std::to_string(position);
-    return LowerText(TrimText(name));
+    return model::ToLower(model::Trim(name));
 }
 
 std::string PreviewFieldName(std::string_view inputType)
 {
-    return LowerText(inputType) + "1";
+    return model::ToLower(inputType) + "1";
 }
 
 bool IsSurvey(const Session& s)
 {
-    return UpperText(s.store.state.ProjectMode) == "SURVEY";
+    return model::ToUpper(s.store.state.ProjectMode) == "SURVEY";
 }
 
 void AppendMessageLine(build::BuildState& b, std::string text)
@@ -209,10 +210,10 @@ void NumberForMessage(build::BuildState& b, std::string& caption, std::string_vi
 
 void NumberForPage(build::BuildState& b, std::string& title, std::string_view inputType)
 {
-    if (UpperText(b.setupValues.NumberEachQuestion) != "YES")
+    if (model::ToUpper(b.setupValues.NumberEachQuestion) != "YES")
         return;
     const std::string n = PairNumber(b.questionNumber, inputType);
-    const std::string prefix = HasText(n, "B") ? "&nbsp;&nbsp;&nbsp;" + n + ". &nbsp;" : n + ". &nbsp;";
+    const std::string prefix = model::ContainsNoCase(n, "B") ? "&nbsp;&nbsp;&nbsp;" + n + ". &nbsp;" : n + ". &nbsp;";
     title = prefix + title;
 }
 
@@ -233,12 +234,12 @@ void SplitTitle(build::BuildState& b, std::string_view title)
     lines.clear();
     std::string rest(title);
     for (;;) {
-        const size_t at = UpperText(rest).find("\\N");
+        const size_t at = model::ToUpper(rest).find("\\N");
         if (at == std::string::npos)
             break;
         lines.push(rest.substr(0, at));
         rest.erase(0, at + 2);
-        while (BeginsWith(rest, "\\N")) {
+        while (model::StartsWithNoCase(rest, "\\N")) {
             lines.push("");
             rest.erase(0, 2);
         }
@@ -257,7 +258,7 @@ void WriteFormHeading(Session& s, std::string_view title, std::string_view requi
     if (!title.empty())
         SplitTitle(s.build, title);
     out.line(ParagraphOpen(s.build.values));
-    if (UpperText(req) == "YES")
+    if (model::ToUpper(req) == "YES")
         out.piece("* ");
     const auto& lines = s.build.TitleLines;
     for (int i = 1; i <= lines.count(); ++i) {
@@ -274,7 +275,7 @@ void WriteSurveyHeading(Session& s, std::string_view title, std::string_view req
 {
     auto& out = Out(s);
     const std::string req = ForcedRequired(required, inputType);
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     WriteTextOpen(s);
     if (!title.empty())
         SplitTitle(s.build, title);
@@ -288,7 +289,7 @@ void WriteSurveyHeading(Session& s, std::string_view title, std::string_view req
     out.line("");
     if (intro.count() == 0) {
         WriteSurveyLines(s, req, t);
-        if (!BeginsWith(t, "TITLE"))
+        if (!model::StartsWithNoCase(t, "TITLE"))
             WriteShadeOpen(s);
     }
 }

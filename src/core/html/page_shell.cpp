@@ -3,6 +3,7 @@
 
 #include "html/headings.h"
 #include "html/html_text.h"
+#include "model/text_ops.h"
 
 namespace tq::html {
 

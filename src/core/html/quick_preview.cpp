@@ -4,6 +4,7 @@
 #include "html/conditions.h"
 #include "html/html_text.h"
 #include "model/attribute_text.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
 
@@ -11,7 +12,7 @@ namespace tq::html {
 
 bool UsesQuickPreview(std::string_view attributeName)
 {
-    std::string name = UpperText(TrimText(attributeName));
+    std::string name = model::ToUpper(model::Trim(attributeName));
     if (!name.empty() && name[0] == '[')
         name.erase(0, 1);
     if (name == "USERNAME" || name.find("DEFAULT") != std::string::npos)
@@ -20,7 +21,7 @@ bool UsesQuickPreview(std::string_view attributeName)
                               "TQL OUTPUT FILE", "FROM", "LINK TO", "PASSWORD", "THANK YOU FILE"})
         if (name == exact)
             return true;
-    return BeginsWith(name, "EMAIL #") || BeginsWith(name, "SERVER");
+    return model::StartsWithNoCase(name, "EMAIL #") || model::StartsWithNoCase(name, "SERVER");
 }
 
 std::string WriteQuickPreview(Session& s, std::string_view attributeName, std::string_view text)
@@ -47,7 +48,7 @@ std::string WriteQuickPreview(Session& s, std::string_view attributeName, std::s
     out.line("<p align=" + Quoted("left") + ">");
     out.line("<b>");
     out.line("<font color=" + Quoted("#FF0000") + "face=" + Quoted("arial") + " size=" + Quoted("3") + ">");
-    out.line(UpperText(attributeName));
+    out.line(model::ToUpper(attributeName));
     out.line("<br><br>");
     out.line("</font></b>");
     for (int i = 1; i <= lines.count(); ++i) {

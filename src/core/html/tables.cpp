@@ -3,6 +3,7 @@
 
 #include "html/headings.h"
 #include "html/html_text.h"
+#include "model/text_ops.h"
 #include "session.h"
 
 namespace tq::html {
@@ -11,7 +12,7 @@ namespace {
 
 bool IsOn(std::string_view value)
 {
-    return UpperText(value) == "ON";
+    return model::ToUpper(value) == "ON";
 }
 
 std::string TableFont(const build::WorkingValues& v)
@@ -25,7 +26,7 @@ void WriteTable(Session& s, std::string_view field, std::string_view inputType, 
     auto& out = s.build.channels[1];
     auto& b = s.build;
     const auto& v = b.values;
-    const bool req = UpperText(required) == "YES";
+    const bool req = model::ToUpper(required) == "YES";
     const bool italics = IsOn(v.TableItalics);
     const bool bold = IsOn(v.TableBold);
 
@@ -83,7 +84,7 @@ void WriteTable(Session& s, std::string_view field, std::string_view inputType, 
     }
     for (const auto& l : lines.items) {
         const size_t nbsp = text ? l.find("&nbsp;") : std::string::npos;
-        out.line(nbsp == std::string::npos ? l : TrimText(l.substr(0, nbsp)));
+        out.line(nbsp == std::string::npos ? std::string_view(l) : model::Trim(std::string_view(l).substr(0, nbsp)));
     }
     if (italics)
         out.line("</i>");

@@ -3,6 +3,7 @@
 
 #include "html/headings.h"
 #include "html/html_text.h"
+#include "model/text_ops.h"
 #include "session.h"
 
 namespace tq::html {
@@ -51,7 +52,7 @@ void WriteTextArea(Session& s, std::string_view field, std::string_view width, s
 {
     auto& out = s.build.channels[1];
     const auto& lines = s.build.values.DefaultLines;
-    out.line("<textarea name=" + Quoted(LowerText(field)) + "  rows=" + Quoted(height) + " cols=" + Quoted(width));
+    out.line("<textarea name=" + Quoted(model::ToLower(field)) + "  rows=" + Quoted(height) + " cols=" + Quoted(width));
     if (lines.count() > 0)
         out.line("Style = " + Quoted("font-family: Courier; font-size: 10pt") + ">");
     else
@@ -72,9 +73,9 @@ void WriteSurveyText(Session& s,
                      std::string_view required)
 {
     auto& out = s.build.channels[1];
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     const std::string req = ForcedRequired(required, t);
-    if (BeginsWith(t, "TITLE") || BeginsWith(t, "SURVEY")) {
+    if (model::StartsWithNoCase(t, "TITLE") || model::StartsWithNoCase(t, "SURVEY")) {
         WriteSurveyHeading(s, title, req, inputType);
         out.line("");
         return;
@@ -127,9 +128,9 @@ void WriteFormText(Session& s,
                    std::string_view required)
 {
     auto& out = s.build.channels[1];
-    const std::string t = UpperText(inputType);
+    const std::string t = model::ToUpper(inputType);
     const std::string req = ForcedRequired(required, t);
-    if (BeginsWith(t, "TITLE")) {
+    if (model::StartsWithNoCase(t, "TITLE")) {
         WriteFormHeading(s, title, req, inputType);
         return;
     }
@@ -173,7 +174,7 @@ void WriteSurveyComments(Session& s,
     RecordQuestion(s.build, field, title, inputType);
     out.line("");
     WriteSurveyHeading(s, title, required, inputType);
-    if (BeginsWith(inputType, "CONDITION") || BeginsWith(inputType, "FOLLOWUP"))
+    if (model::StartsWithNoCase(inputType, "CONDITION") || model::StartsWithNoCase(inputType, "FOLLOWUP"))
         out.line(ParagraphOpen(s));
     out.line(ParagraphOpen(s));
     WriteTextArea(s, field, width, height);

@@ -5,6 +5,7 @@
 #include "html/html_text.h"
 #include "html/page_shell.h"
 #include "model/attribute_text.h"
+#include "model/text_ops.h"
 
 #include <cctype>
 #include <string>
@@ -16,27 +17,7 @@ namespace {
 
 bool IsOn(std::string_view value)
 {
-    return UpperText(value) == "ON";
-}
-
-// The leading whole number of a text ("12abc" is 12, "abc" is 0).
-long LeadingNumber(std::string_view text)
-{
-    size_t i = text.find_first_not_of(' ');
-    if (i == std::string_view::npos)
-        return 0;
-    bool negative = false;
-    if (text[i] == '-' || text[i] == '+') {
-        negative = text[i] == '-';
-        ++i;
-    }
-    long n = 0;
-    for (; i < text.size() && std::isdigit(static_cast<unsigned char>(text[i])); ++i) {
-        n = n * 10 + (text[i] - '0');
-        if (n > 1'000'000)
-            break;
-    }
-    return negative ? -n : n;
+    return model::ToUpper(value) == "ON";
 }
 
 // The video lines; `closing` ends the img tag.
@@ -46,7 +27,7 @@ void WriteVideoLines(Session& s, std::string_view closing)
     const auto& v = s.build.values;
     out.line("<p align=" + Quoted(v.VideoAlign) + ">");
     out.piece("<img border=" + Quoted("0") + " dynsrc=" + Quoted(v.ServerPath));
-    out.piece(UpperText(v.Autostart) == "ON" ? " start=" + Quoted("fileopen") : " start=" + Quoted("mouseover"));
+    out.piece(model::ToUpper(v.Autostart) == "ON" ? " start=" + Quoted("fileopen") : " start=" + Quoted("mouseover"));
     out.line(" width=" + Quoted(v.VideoWidth) + " height=" + Quoted(v.VideoHeight) + " loop=" + Quoted(v.Loop) +
              std::string(closing));
 }
@@ -98,13 +79,13 @@ void WriteTitleShade(Session& s)
     out.line("<td width=" + Quoted("100%") + " align=" + Quoted("center") + " height=" + Quoted("4") + "></td>");
     out.line("  </tr>");
     out.line("</table>");
-    if (UpperText(v.ALIGN) != "CENTER")
+    if (model::ToUpper(v.ALIGN) != "CENTER")
         out.line("<br><br>");
 }
 
 void WriteBlankLine(Session& s)
 {
-    const long count = LeadingNumber(s.build.values.NewLine);
+    const long count = model::LeadingWhole(s.build.values.NewLine, 1'000'000);
     if (count > 32767)
         throw model::InternalError("internal error: overflow in NEW LINE " + s.build.values.NewLine);
     for (long i = 0; i < count; ++i)
@@ -114,7 +95,7 @@ void WriteBlankLine(Session& s)
 void WriteVideo(Session& s, UiPort& ui)
 {
     const auto& v = s.build.values;
-    const std::string p = UpperText(v.ServerPath);
+    const std::string p = model::ToUpper(v.ServerPath);
     const bool wmv = p.find(".WMV") != std::string::npos;
     const bool mp4 = p.find(".MP4") != std::string::npos;
     const bool avi = p.find(".AVI") != std::string::npos;
@@ -145,7 +126,7 @@ void WritePicture(Session& s)
 {
     auto& b = s.build;
     const auto& v = b.values;
-    if (UpperText(v.ServerPath) == "NONE")
+    if (model::ToUpper(v.ServerPath) == "NONE")
         return;
     if (!IsSurvey(s) && b.lastPhpSlot != 3)
         b.channels[1].line("<br><br>");

@@ -23,14 +23,6 @@ View PageView(int page)
     return kViews[page - 1];
 }
 
-std::string FirstUpperRestLower(const std::string& mode)
-{
-    std::string out = ToUpper(mode);
-    for (size_t i = 1; i < out.size(); ++i)
-        if (out[i] >= 'A' && out[i] <= 'Z')
-            out[i] = static_cast<char>(out[i] - 'A' + 'a');
-    return out;
-}
 } // namespace
 
 double LeadingNumber(std::string_view text)
@@ -158,7 +150,7 @@ bool ReorderEntries(EntryStore& store, UiPort& ui)
     // 8
     if (!st.SwitchInProgress) {
         if (!changed)
-            ui.message("The " + FirstUpperRestLower(st.ProjectMode) +
+            ui.message("The " + ToProperCase(st.ProjectMode) +
                            " is already in sequential order and does not need to be sorted." + kCR + kCR +
                            "To change the Order, change the numbers below the Order button.",
                        "NO CHANGES NEEDED", Icon::None);

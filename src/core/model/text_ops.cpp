@@ -11,11 +11,32 @@ char UpperChar(char c)
     return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
+char LowerChar(char c)
+{
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 std::string ToUpper(std::string_view s)
 {
     std::string out(s);
     for (char& c : out)
         c = UpperChar(c);
+    return out;
+}
+
+std::string ToLower(std::string_view s)
+{
+    std::string out(s);
+    for (char& c : out)
+        c = LowerChar(c);
+    return out;
+}
+
+std::string ToProperCase(std::string_view s)
+{
+    std::string out = ToLower(s);
+    if (!out.empty())
+        out[0] = UpperChar(out[0]);
     return out;
 }
 
@@ -47,27 +68,48 @@ size_t FindNoCase(std::string_view s, std::string_view needle, size_t from)
     return std::string_view::npos;
 }
 
-std::string_view LTrim(std::string_view s)
+bool Contains(std::string_view s, std::string_view part)
 {
-    const size_t i = s.find_first_not_of(' ');
+    return s.find(part) != std::string_view::npos;
+}
+
+bool ContainsNoCase(std::string_view s, std::string_view needle)
+{
+    return FindNoCase(s, needle) != std::string_view::npos;
+}
+
+std::string_view LTrim(std::string_view s, std::string_view blanks)
+{
+    const size_t i = s.find_first_not_of(blanks);
     return i == std::string_view::npos ? std::string_view() : s.substr(i);
 }
 
-std::string_view RTrim(std::string_view s)
+std::string_view RTrim(std::string_view s, std::string_view blanks)
 {
-    const size_t i = s.find_last_not_of(' ');
+    const size_t i = s.find_last_not_of(blanks);
     return i == std::string_view::npos ? std::string_view() : s.substr(0, i + 1);
 }
 
-std::string_view Trim(std::string_view s)
+std::string_view Trim(std::string_view s, std::string_view blanks)
 {
-    return RTrim(LTrim(s));
+    return RTrim(LTrim(s, blanks), blanks);
 }
 
 void LTrimInPlace(std::string& s)
 {
     const size_t i = s.find_first_not_of(' ');
     s.erase(0, i == std::string::npos ? s.size() : i);
+}
+
+void ReplaceAll(std::string& text, std::string_view from, std::string_view to)
+{
+    if (from.empty())
+        return;
+    size_t at = 0;
+    while ((at = text.find(from, at)) != std::string::npos) {
+        text.replace(at, from.size(), to);
+        at += to.size();
+    }
 }
 
 long long ValLong(std::string_view s)
@@ -97,6 +139,53 @@ long long ValLong(std::string_view s)
     if (n <= -kMax)
         return std::numeric_limits<long long>::min();
     return static_cast<long long>(n);
+}
+
+long LeadingWhole(std::string_view s, long limit)
+{
+    s = LTrim(s);
+    size_t i = 0;
+    bool negative = false;
+    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+        negative = s[i++] == '-';
+    long n = 0;
+    for (; i < s.size() && s[i] >= '0' && s[i] <= '9'; ++i) {
+        n = n * 10 + (s[i] - '0');
+        if (n > limit)
+            break;
+    }
+    return negative ? -n : n;
+}
+
+bool IsNumeric(std::string_view s)
+{
+    const std::string_view t = Trim(s);
+    size_t i = 0;
+    if (i < t.size() && (t[i] == '+' || t[i] == '-'))
+        ++i;
+    bool digits = false;
+    bool point = false;
+    for (; i < t.size(); ++i) {
+        if (t[i] >= '0' && t[i] <= '9')
+            digits = true;
+        else if (t[i] == '.' && !point)
+            point = true;
+        else
+            break;
+    }
+    if (!digits)
+        return false;
+    if (i < t.size() && (t[i] == 'e' || t[i] == 'E')) {
+        ++i;
+        if (i < t.size() && (t[i] == '+' || t[i] == '-'))
+            ++i;
+        bool expDigits = false;
+        for (; i < t.size() && t[i] >= '0' && t[i] <= '9'; ++i)
+            expDigits = true;
+        if (!expDigits)
+            return false;
+    }
+    return i == t.size();
 }
 
 } // namespace tq::model

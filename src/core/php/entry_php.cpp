@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "php/entry_php.h"
 
-#include "php/php_text.h"
+#include "model/text_ops.h"
 
 #include <algorithm>
 #include <array>
@@ -50,54 +50,55 @@ void ShowPairingError(UiPort& ui, const std::string& type, std::string_view must
 
 bool IsDownloadType(std::string_view inputType)
 {
-    return OneOf(Upper(inputType), {"DOWNLOAD FILES", "DOWNLOAD FILES WITH PASSWORD", "FOLLOWUP FILES WITH PASSWORD"});
+    return OneOf(model::ToUpper(inputType),
+                 {"DOWNLOAD FILES", "DOWNLOAD FILES WITH PASSWORD", "FOLLOWUP FILES WITH PASSWORD"});
 }
 
 bool HasEntryPhp(std::string_view inputType)
 {
-    return OneOf(Upper(inputType), {"NAME",
-                                    "SUBJECT",
-                                    "EMAIL",
-                                    "PHONE NUMBER",
-                                    "CELL PHONE NUMBER",
-                                    "CANCEL BUTTON",
-                                    "TITLE 1 SINGLE LINE",
-                                    "TITLE 2 DOUBLE LINE",
-                                    "TITLE HEADER",
-                                    "SURVEY INTRO",
-                                    "USER NAME",
-                                    "PASSWORD",
-                                    "SECURITY CODE",
-                                    "QUESTION MULTIPLE CHOICES COMMENTS",
-                                    "QUESTION MULTIPLE CHOICES",
-                                    "QUESTION YESNO REQUIRED",
-                                    "QUESTION YESNO NOT REQUIRED",
-                                    "QUESTION YESNO VERTICAL REQUIRED",
-                                    "CONDITION WITH COMMENT",
-                                    "DOWNLOAD FILES",
-                                    "DOWNLOAD FILES WITH PASSWORD",
-                                    "CONDITION WITH DROPDOWN",
-                                    "CONDITION WITH MULTIPLE CHOICES",
-                                    "TABLE TEXT REQUIRED",
-                                    "TABLE CHOICES REQUIRED",
-                                    "FOLLOWUP FILES WITH PASSWORD",
-                                    "FOLLOWUP WITH MULTIPLE CHOICES",
-                                    "DROPDOWN REQUIRED",
-                                    "DROPDOWN NOT REQUIRED",
-                                    "FOLLOWUP WITH DROPDOWN",
-                                    "CHECKBOX HORIZONTAL",
-                                    "CHECKBOX VERTICAL",
-                                    "COMMENTS REQUIRED",
-                                    "COMMENTS NOT REQUIRED",
-                                    "COMMENTS WITH TEXT",
-                                    "FOLLOWUP WITH COMMENT"});
+    return OneOf(model::ToUpper(inputType), {"NAME",
+                                             "SUBJECT",
+                                             "EMAIL",
+                                             "PHONE NUMBER",
+                                             "CELL PHONE NUMBER",
+                                             "CANCEL BUTTON",
+                                             "TITLE 1 SINGLE LINE",
+                                             "TITLE 2 DOUBLE LINE",
+                                             "TITLE HEADER",
+                                             "SURVEY INTRO",
+                                             "USER NAME",
+                                             "PASSWORD",
+                                             "SECURITY CODE",
+                                             "QUESTION MULTIPLE CHOICES COMMENTS",
+                                             "QUESTION MULTIPLE CHOICES",
+                                             "QUESTION YESNO REQUIRED",
+                                             "QUESTION YESNO NOT REQUIRED",
+                                             "QUESTION YESNO VERTICAL REQUIRED",
+                                             "CONDITION WITH COMMENT",
+                                             "DOWNLOAD FILES",
+                                             "DOWNLOAD FILES WITH PASSWORD",
+                                             "CONDITION WITH DROPDOWN",
+                                             "CONDITION WITH MULTIPLE CHOICES",
+                                             "TABLE TEXT REQUIRED",
+                                             "TABLE CHOICES REQUIRED",
+                                             "FOLLOWUP FILES WITH PASSWORD",
+                                             "FOLLOWUP WITH MULTIPLE CHOICES",
+                                             "DROPDOWN REQUIRED",
+                                             "DROPDOWN NOT REQUIRED",
+                                             "FOLLOWUP WITH DROPDOWN",
+                                             "CHECKBOX HORIZONTAL",
+                                             "CHECKBOX VERTICAL",
+                                             "COMMENTS REQUIRED",
+                                             "COMMENTS NOT REQUIRED",
+                                             "COMMENTS WITH TEXT",
+                                             "FOLLOWUP WITH COMMENT"});
 }
 
 void NumberMessages(build::BuildState& state, std::string_view inputType, std::string& msg, std::string& msg2)
 {
-    if (Upper(state.setupValues.NumberEachQuestion) != "YES")
+    if (model::ToUpper(state.setupValues.NumberEachQuestion) != "YES")
         return;
-    const std::string t = Upper(inputType);
+    const std::string t = model::ToUpper(inputType);
     std::string label;
     if (OneOf(t, {"DOWNLOAD FILES WITH PASSWORD", "CONDITION WITH COMMENT", "CONDITION WITH DROPDOWN",
                   "CONDITION WITH MULTIPLE CHOICES"})) {
@@ -111,16 +112,16 @@ void NumberMessages(build::BuildState& state, std::string_view inputType, std::s
         label = std::to_string(state.phpQuestionNumber) + ". ";
     }
     const size_t dot = label.find('.');
-    const std::string suffix = dot == std::string::npos
-                                   ? std::string()
-                                   : " for question " + TrimSpaces(std::string_view(label).substr(0, dot));
+    const std::string suffix =
+        dot == std::string::npos ? std::string()
+                                 : " for question " + std::string(model::Trim(std::string_view(label).substr(0, dot)));
     msg = label + msg + suffix;
     msg2 = label + msg2 + suffix;
 }
 
 void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::string_view keyView)
 {
-    const std::string t = Upper(inputType);
+    const std::string t = model::ToUpper(inputType);
     // (A test of the first four characters against "HORIZONTAL LINE" never
     // held; that type does not reach this writer.)
     if (keyView.empty() || t == "VIDEO" || StartsWith(t, "TITLE") || StartsWith(t, "SURVEY"))
@@ -131,7 +132,7 @@ void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::
     std::string msg = v.MSG;
     std::string msg2 = v.MSG2;
     NumberMessages(state, t, msg, msg2);
-    const bool required = Upper(v.REQ) == "YES";
+    const bool required = model::ToUpper(v.REQ) == "YES";
     build::LineWriter& out = state.channels[1];
 
     if (OneOf(t, {"NAME", "SUBJECT", "PHONE NUMBER", "CELL PHONE NUMBER", "COMMENTS REQUIRED", "COMMENTS NOT REQUIRED",
@@ -197,7 +198,7 @@ void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inp
     const build::WorkingValues& v = state.values;
     if (keyView.empty() || v.Title.empty())
         return;
-    const std::string t = Upper(inputType);
+    const std::string t = model::ToUpper(inputType);
     const std::string key(keyView);
     std::string msg = v.MSG;
     std::string msg2 = v.MSG2;
@@ -205,7 +206,7 @@ void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inp
     std::string req = v.REQ;
     if (t == "FOLLOWUP FILES WITH PASSWORD")
         req = "yes";
-    const bool required = Upper(req) == "YES";
+    const bool required = model::ToUpper(req) == "YES";
     build::LineWriter& out = state.channels[1];
 
     if (t == "DOWNLOAD FILES") {
@@ -227,15 +228,15 @@ void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inp
     if (t != "FOLLOWUP FILES WITH PASSWORD")
         return;
 
-    const std::string p = Upper(state.lastConditionField.substr(0, 5));
-    if (p == "DOWNL" && Upper(key.substr(0, 5)) != "FOLLO") {
+    const std::string p = model::ToUpper(state.lastConditionField.substr(0, 5));
+    if (p == "DOWNL" && model::ToUpper(key.substr(0, 5)) != "FOLLO") {
         // this type's key always starts with "follo": kept as the format has it
         ShowPairingError(ui, t, " must follow a download-");
         state.buildError = 1;
         state.channels.closeAll();
         return;
     }
-    if (p != "DOWNL" && (p != "CONDI" || TrimSpaces(state.lastConditionField).empty())) {
+    if (p != "DOWNL" && (p != "CONDI" || model::Trim(state.lastConditionField).empty())) {
         ShowPairingError(ui, t, " must follow a condition-");
         state.buildError = 1;
         return;

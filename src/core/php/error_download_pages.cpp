@@ -2,7 +2,7 @@
 #include "php/error_download_pages.h"
 
 #include "model/attribute_text.h"
-#include "php/php_text.h"
+#include "model/text_ops.h"
 
 #include <string>
 
@@ -78,7 +78,7 @@ void WriteDownloadFile(build::LineWriter& out, const build::BuildState& state, s
         out.line("    href=\"" + std::string(serverPath) + file + "\">" + file + "</a></font></b>");
     }
     const std::string& home = state.homePage;
-    if (!home.empty() && Upper(home) != "NONE")
+    if (!home.empty() && model::ToUpper(home) != "NONE")
         out.line(
             "<p align=\"center\"><a href=\"" + home +
             R"~("><input type="button" value="Home" name="B3" style="font-family: Arial; color: #CC3300; font-size: 18pt"></a></p>)~");

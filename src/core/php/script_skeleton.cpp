@@ -2,9 +2,9 @@
 #include "php/script_skeleton.h"
 
 #include "model/attribute_text.h"
+#include "model/text_ops.h"
 #include "php/error_download_pages.h"
 #include "php/function_library.h"
-#include "php/php_text.h"
 
 #include <string>
 
@@ -20,7 +20,7 @@ void WriteLines(build::LineWriter& out, std::initializer_list<std::string_view> 
 
 bool IsRecipient(const std::string& email)
 {
-    return !email.empty() && Upper(email) != "NONE";
+    return !email.empty() && model::ToUpper(email) != "NONE";
 }
 
 } // namespace
@@ -74,14 +74,14 @@ void WriteMessageBody(build::LineWriter& out, const build::BuildState& state)
         for (size_t at = label.find("&nbsp;"); at != std::string::npos; at = label.find("&nbsp;"))
             label.erase(at, 6);
         out.line(label);
-        if (Upper(label).find("B.") != std::string::npos)
+        if (model::ToUpper(label).find("B.") != std::string::npos)
             out.line("");
 
         // the slot behind an odd count is the table's own empty slot
         const std::string& w = state.messageLines[static_cast<size_t>(i + 1)];
         if (!w.empty() && w[0] == '-')
             out.line(std::string_view(w).substr(1));
-        else if (!TrimSpaces(w).empty())
+        else if (!model::Trim(w).empty())
             out.line("$" + w); // PHP expands the variable inside the message string
         else
             out.line(w);

@@ -1,32 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/local_test.h"
 
+#include "model/text_ops.h"
+
 namespace tq::shell {
 
 namespace {
-
-std::string Upper(std::string_view s)
-{
-    std::string out(s);
-    for (char& c : out)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return out;
-}
-
-std::string_view TrimLeft(std::string_view s)
-{
-    while (!s.empty() && (s.front() == ' ' || s.front() == '\t'))
-        s.remove_prefix(1);
-    return s;
-}
 
 } // namespace
 
 std::string PointProjectAt(const std::string& project, const std::string& folder, bool& found)
 {
     const std::string key = "[DRIVE FOLDER PATH=";
-    const std::string upper = Upper(project);
+    const std::string upper = model::ToUpper(project);
     size_t at = upper.find(key);
     found = at != std::string::npos;
     if (!found)
@@ -81,8 +67,8 @@ CapturedMail ParseCapturedMail(std::string_view bytes)
         const size_t colon = header.find(':');
         if (colon == std::string::npos)
             continue;
-        const std::string name = Upper(header.substr(0, colon));
-        const std::string value(TrimLeft(std::string_view(header).substr(colon + 1)));
+        const std::string name = model::ToUpper(header.substr(0, colon));
+        const std::string value(model::LTrim(std::string_view(header).substr(colon + 1), " \t"));
         if (name == "TO" && mail.to.empty())
             mail.to = value;
         else if (name == "SUBJECT" && mail.subject.empty())

@@ -2,6 +2,7 @@
 #include "shell/publish_check.h"
 
 #include "html/headings.h"
+#include "model/text_ops.h"
 #include "store/text_file.h"
 
 #include <filesystem>
@@ -41,27 +42,18 @@ std::string_view LineOf(std::string_view text, int number)
     return line;
 }
 
-std::string Trim(std::string_view s)
-{
-    while (!s.empty() && (s.front() == ' ' || s.front() == '\t' || s.front() == '\r' || s.front() == '\n'))
-        s.remove_prefix(1);
-    while (!s.empty() && (s.back() == ' ' || s.back() == '\t' || s.back() == '\r' || s.back() == '\n'))
-        s.remove_suffix(1);
-    return std::string(s);
-}
-
 // php's own words: "syntax error, unexpected ..." from its first error line.
 std::string PhpWords(std::string_view output)
 {
     size_t at = output.find("error:");
     if (at == std::string_view::npos)
-        return Trim(output.substr(0, output.find('\n')));
+        return std::string(model::Trim(output.substr(0, output.find('\n')), " \t\r\n"));
     std::string_view rest = output.substr(at + 6);
     rest = rest.substr(0, rest.find('\n'));
     size_t in = rest.rfind(" in ");
     if (in != std::string_view::npos)
         rest = rest.substr(0, in);
-    return Trim(rest);
+    return std::string(model::Trim(rest, " \t\r\n"));
 }
 
 } // namespace
@@ -87,8 +79,8 @@ std::string PublishWarning(const build::BuildState& build, std::string_view phpO
     const int lineNumber = PhpErrorLine(phpOutput);
     const std::string where = lineNumber > 0 ? " (line " + std::to_string(lineNumber) + ")" : std::string();
     const std::string_view line = lineNumber > 0 ? LineOf(script, lineNumber) : std::string_view();
-    for (int slot = 1; slot <= build.listLength && slot <= model::kMaxFlatLines; slot += 2) {
-        const std::string& type = build.flatList[static_cast<size_t>(slot)];
+    for (int slot = 1; slot <= build.flatList.EntryLineCount; slot += 2) {
+        const std::string& type = build.flatList.at(slot);
         if (type.empty())
             continue;
         const std::string name = html::FieldName(type, slot);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/version_check.h"
 
+#include "model/text_ops.h"
 #include "port/platform.h"
 
 #include <algorithm>
@@ -16,10 +17,7 @@ std::string VersionLine()
 static std::string CurrentVersion()
 {
     std::string line = VersionLine();
-    std::string upper = line;
-    std::transform(upper.begin(), upper.end(), upper.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    size_t at = upper.find("VERSION");
+    const size_t at = model::FindNoCase(line, "VERSION");
     if (at == std::string::npos || at + 8 > line.size())
         return {};
     return line.substr(at + 8);

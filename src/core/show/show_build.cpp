@@ -2,6 +2,7 @@
 #include "show/show_build.h"
 
 #include "build/line_writer.h"
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "show/show_file.h"
 #include "store/recent_history.h"
@@ -21,8 +22,8 @@ constexpr std::string_view kExampleLink = "https://www.tarnquill.example/picture
 
 template <size_t N> bool InUpperList(std::string_view value, const std::array<std::string_view, N>& list)
 {
-    const std::string v = UpperCase(value);
-    return std::any_of(list.begin(), list.end(), [&](std::string_view item) { return UpperCase(item) == v; });
+    const std::string v = model::ToUpper(value);
+    return std::any_of(list.begin(), list.end(), [&](std::string_view item) { return model::ToUpper(item) == v; });
 }
 
 bool FolderExists(const std::string& folder)
@@ -42,21 +43,12 @@ void ReportFileError(int err, const std::string& name, UiPort& ui)
     ui.message(ErrorText(err) + " when reading " + name, "ERROR", Icon::Exclamation);
 }
 
-std::string Trim(std::string_view text)
-{
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
-        text.remove_prefix(1);
-    while (!text.empty() && (text.back() == ' ' || text.back() == '\t'))
-        text.remove_suffix(1);
-    return std::string(text);
-}
-
 } // namespace
 
 void ValidateShow(const ShowSettings& s, bool& failed, UiPort& ui)
 {
     failed = true;
-    const std::string fading = UpperCase(s.UseFading);
+    const std::string fading = model::ToUpper(s.UseFading);
     if (fading != "YES" && fading != "NO") {
         ui.message(std::string(kUseFadingLabel) + " MUST BE EITHER YES OR NO", "ERROR", Icon::Exclamation);
         return;
@@ -66,7 +58,7 @@ void ValidateShow(const ShowSettings& s, bool& failed, UiPort& ui)
                    Icon::Exclamation);
         return;
     }
-    const std::string zip = UpperCase(s.AllowZip);
+    const std::string zip = model::ToUpper(s.AllowZip);
     if (zip != "YES" && zip != "NO") {
         ui.message(std::string(kAllowZipLabel) + " MUST BE EITHER YES OR NO", "ERROR", Icon::Exclamation);
         return;
@@ -113,14 +105,14 @@ std::vector<std::string> RewriteTemplateLine(std::string_view line, const ShowSe
     if (has("<b>RETURN TO HOME PAGE</b>"))
         return {"<b>" + s.HomeLinkText + "</b>"};
     if (has("do you want to blend between images?"))
-        return {UpperCase(s.UseFading) == "YES" ? "$useFading =true;" : "$useFading =false;"};
+        return {model::ToUpper(s.UseFading) == "YES" ? "$useFading =true;" : "$useFading =false;"};
     if (has("$imgsperline=5"))
         return {"$imgsperline=" + CutListValue(s.ImagesPerLine, 2) + ";"};
     if (has("  $imgspercolumn"))
         return {"$imgspercolumn=" + CutListValue(s.ColumnsPerLine, 2) + ";"};
     if (has("  $allowZip=true;"))
         // the two leading blanks stay, unlike the other lines written here
-        return {UpperCase(s.AllowZip) == "YES" ? "  $allowZip=true;" : "  $allowZip=false;"};
+        return {model::ToUpper(s.AllowZip) == "YES" ? "  $allowZip=true;" : "  $allowZip=false;"};
     if (has("Image browser"))
         return {"$browsertitle=\"" + s.BrowserTitle + "\";"};
     if (has("$fadeMode  =rand(0,4)")) {
@@ -216,7 +208,7 @@ bool BuildShow(Session& session, std::string_view programFolder, UiPort& ui)
 
     std::string templatePath;
     FindTemplate(templatePath, failed, programFolder, session.run, ui);
-    if (failed || Trim(templatePath).empty())
+    if (failed || model::Trim(templatePath, " \t").empty())
         return false;
 
     std::string text;

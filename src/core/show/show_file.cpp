@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "show/show_file.h"
 
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "store/recent_history.h"
 #include "store/text_file.h"
@@ -141,7 +142,7 @@ bool SaveShow(Session& session, UiPort& ui)
     // the dialog's default extension: only a name without any extension gets ".shw"
     if (std::filesystem::path(name).filename().string().find('.') == std::string::npos)
         name += ".shw";
-    if (name.size() >= 4 && UpperCase(name.substr(name.size() - 4)) == ".SHW")
+    if (name.size() >= 4 && model::ToUpper(name.substr(name.size() - 4)) == ".SHW")
         session.run.LastFormFile = name;
 
     std::error_code ec;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "show/show_settings.h"
 
+#include "model/text_ops.h"
+
 #include <cstdio>
 
 namespace tq::show {
@@ -13,16 +15,7 @@ const std::string_view kShowHelpText =
 
 void ApplyFadeSwitch(ShowPage& page)
 {
-    page.fadeFieldsEnabled = UpperCase(page.settings.UseFading) == "YES";
-}
-
-std::string UpperCase(std::string_view text)
-{
-    std::string out(text);
-    for (char& c : out)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return out;
+    page.fadeFieldsEnabled = model::ToUpper(page.settings.UseFading) == "YES";
 }
 
 std::string RemoveTrailingSeparator(std::string_view path)
@@ -34,12 +27,7 @@ std::string RemoveTrailingSeparator(std::string_view path)
 
 std::string CutListValue(std::string_view text, size_t count)
 {
-    std::string_view v = text.substr(0, count);
-    while (!v.empty() && v.front() == ' ')
-        v.remove_prefix(1);
-    while (!v.empty() && v.back() == ' ')
-        v.remove_suffix(1);
-    return std::string(v);
+    return std::string(model::Trim(text.substr(0, count)));
 }
 
 std::string ShowColorHex(long color)

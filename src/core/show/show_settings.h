@@ -92,8 +92,6 @@ struct ShowPage
 /// UseFading is "YES" (upper-cased).
 void ApplyFadeSwitch(ShowPage& page);
 
-/// Upper-cases ASCII letters.
-std::string UpperCase(std::string_view text);
 /// Removes one trailing "/" or "\".
 std::string RemoveTrailingSeparator(std::string_view path);
 /// Takes the first `count` characters and trims blanks on both sides

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/project_file.h"
 
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
 #include "store/recent_history.h"
@@ -16,14 +17,6 @@ std::string ExistQuestion(std::string_view name)
 {
     // two blanks ahead of "already", as the program always asked
     return "File " + std::string(name) + "  already exists. Do you want to replace it?";
-}
-
-std::string ProperCase(std::string_view mode)
-{
-    std::string out = Lower(mode);
-    if (!out.empty() && out[0] >= 'a' && out[0] <= 'z')
-        out[0] = static_cast<char>(out[0] - 'a' + 'A');
-    return out;
 }
 
 } // namespace
@@ -140,7 +133,7 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
     FileDialogOptions options;
     options.title = "Enter the Filename";
     options.initialFolder = s.DataFolder;
-    options.filter = Upper(extension) == "FMS" ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
+    options.filter = model::ToUpper(extension) == "FMS" ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
     options.initialName = s.run.LastFormFile; // also when a survey is saved
     auto chosen = ui.saveFileDialog(options);
     if (!chosen || chosen->empty()) {
@@ -150,7 +143,7 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
     const std::string name = *chosen;
     // the dialog's name is the current project name from here on
     s.run.CurrentProjectName = name;
-    if (Upper(name).find(".FMS") != std::string::npos)
+    if (model::ToUpper(name).find(".FMS") != std::string::npos)
         s.run.LastFormFile = name;
 
     if (FileReadable(name)) {
@@ -212,8 +205,8 @@ int OpenProject(
 
     if (fromRecentList) {
         const std::string n = s.run.CurrentProjectName;
-        const std::string e = n.size() >= 4 ? Upper(n.substr(n.size() - 4)) : Upper(n);
-        const std::string mode = Upper(state.ProjectMode);
+        const std::string e = n.size() >= 4 ? model::ToUpper(n.substr(n.size() - 4)) : model::ToUpper(n);
+        const std::string mode = model::ToUpper(state.ProjectMode);
         if ((e == ".SRV" && mode == "FORM") || (e == ".FMS" && mode == "SURVEY")) {
             // "SURVEY" in both cases: a .fms picked in SURVEY mode stays there
             if (hooks.switchMode)
@@ -249,7 +242,7 @@ int OpenProject(
         s.run.CurrentProjectName = s.run.CurrentProjectName.substr(at);
         path = s.run.CurrentProjectName;
     } else {
-        const bool form = Upper(extension) == "FMS";
+        const bool form = model::ToUpper(extension) == "FMS";
         FileDialogOptions options;
         options.initialName = s.run.LastProjectPath;
         options.initialFolder = s.DataFolder;
@@ -262,7 +255,7 @@ int OpenProject(
         s.run.CurrentProjectName = *chosen;
         path = *chosen;
     }
-    if (Upper(path).find(".FMS") != std::string::npos)
+    if (model::ToUpper(path).find(".FMS") != std::string::npos)
         s.run.LastFormFile = path;
 
     auto bytes = ReadWholeFile(path);
@@ -278,7 +271,7 @@ int OpenProject(
     ui.entriesChanged();
     RefreshStatus(s);
     UpdateRecentList(s, ui);
-    if (Upper(state.ProjectMode) == "FORM")
+    if (model::ToUpper(state.ProjectMode) == "FORM")
         RefreshFormList(s, ui);
     else
         RefreshSurveyList(s, ui);
@@ -301,7 +294,7 @@ void OpenSurveyCommand(Session& s, UiPort& ui, const ProjectHooks& hooks)
 
 void RefreshStatus(Session& s)
 {
-    const std::string name = Upper(s.run.CurrentProjectName);
+    const std::string name = model::ToUpper(s.run.CurrentProjectName);
     const std::string mode = s.store.state.ProjectMode;
     StatusTexts& st = s.run.status;
     if (name.find(".FMS") != std::string::npos || name.find(".SRV") != std::string::npos)
@@ -311,8 +304,8 @@ void RefreshStatus(Session& s)
     st.modeLabel = mode + " IS ACTIVE";
     for (int i = 0; i < 4; ++i)
         st.pageCaptions[static_cast<size_t>(i)] =
-            "Page " + std::to_string(i + 1) + " of 4     Create: " + ProperCase(mode);
-    if (Upper(mode) == "SURVEY") {
+            "Page " + std::to_string(i + 1) + " of 4     Create: " + model::ToProperCase(mode);
+    if (model::ToUpper(mode) == "SURVEY") {
         st.buildMenu = "&Build-Survey";
         st.buildOnly = "Build Survey Only";
         st.buildWithHtml = "Build Survey With HTML";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/recent_history.h"
 
+#include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
 #include "store/text_file.h"
@@ -98,7 +99,7 @@ std::string HistoryPath(const std::string& dataFolder, RecentList list)
 
 void UpdateRecentList(Session& s, UiPort& ui)
 {
-    const bool form = Upper(s.store.state.ProjectMode) == "FORM";
+    const bool form = model::ToUpper(s.store.state.ProjectMode) == "FORM";
     const std::string h = HistoryPath(s.DataFolder, form ? RecentList::Forms : RecentList::Surveys);
     auto bytes = ReadWholeFile(h);
     if (!bytes)
@@ -109,14 +110,14 @@ void UpdateRecentList(Session& s, UiPort& ui)
     for (const std::string& line : SplitFileLines(*bytes)) {
         if (line.empty())
             continue;
-        if (Upper(line) == Upper(skip)) {
+        if (model::ToUpper(line) == model::ToUpper(skip)) {
             skip = line;
             continue;
         }
         if (++count > kMenuSlots)
             break;
         // a line off the drive ends the list here, as the end of the file would
-        size_t at = platform::FindDriveMark(Upper(line));
+        size_t at = platform::FindDriveMark(model::ToUpper(line));
         if (at == std::string::npos)
             break;
         out += line.substr(at);
@@ -188,10 +189,10 @@ void RemoveHistoryLine(const std::string& file, std::string_view text, bool& fai
         failed = true;
         return;
     }
-    const std::string needle = Upper(text);
+    const std::string needle = model::ToUpper(text);
     std::string out;
     for (const std::string& line : lines) {
-        if (Upper(line).find(needle) != std::string::npos) {
+        if (model::ToUpper(line).find(needle) != std::string::npos) {
             if (removed)
                 ++*removed;
             continue;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Setup page's sorts, find buttons, clipboard and Help texts.
+#include "model/text_ops.h"
 #include "store/setup_store.h"
 #include "store/text_file.h"
 
@@ -39,15 +40,6 @@ double LeadingNumber(std::string_view text)
     if (!digits)
         return 0;
     return std::strtod(std::string(text.substr(start, i - start)).c_str(), nullptr);
-}
-
-std::string Trim(std::string_view text)
-{
-    size_t a = text.find_first_not_of(' ');
-    if (a == std::string_view::npos)
-        return std::string();
-    size_t b = text.find_last_not_of(' ');
-    return std::string(text.substr(a, b - a + 1));
 }
 
 /// Splits a joined row text at its first three ";": a field holding a ";" of
@@ -96,8 +88,8 @@ void SortSetupByName(SetupStore& setup, UiPort& ui, bool descending)
     // an exchange sort on the whole text: equal names order by the other fields
     for (size_t i = 0; i < texts.size(); ++i)
         for (size_t j = i + 1; j < texts.size(); ++j) {
-            const std::string a = Lower(texts[i]);
-            const std::string b = Lower(texts[j]);
+            const std::string a = model::ToLower(texts[i]);
+            const std::string b = model::ToLower(texts[j]);
             if (descending ? a < b : a > b)
                 std::swap(texts[i], texts[j]);
         }
@@ -131,7 +123,7 @@ void SortSetupByNumber(SetupStore& setup, UiPort& ui, std::string_view mode)
         return;
     std::vector<double> numbers;
     for (SetupRow& r : setup.rows) {
-        double n = LeadingNumber(Trim(r.OrderNumber));
+        double n = LeadingNumber(model::Trim(r.OrderNumber));
         if (n > kSetupMax) {
             r.OrderNumber = std::to_string(kSetupMax);
             n = kSetupMax;
@@ -158,10 +150,7 @@ void SortSetupByNumber(SetupStore& setup, UiPort& ui, std::string_view mode)
         setup.rows[j] = next;
     }
     if (!changed) {
-        std::string word = Lower(mode);
-        if (!word.empty())
-            word[0] = Upper(word.substr(0, 1))[0];
-        ui.message("The " + word +
+        ui.message("The " + model::ToProperCase(mode) +
                        " is already in sequential order and does not need to be sorted.\r\rTo change the Order, "
                        "change the numbers below the Order button.",
                    "NO CHANGES NEEDED", Icon::Information);

@@ -127,24 +127,6 @@ bool CopyFileReplacing(const std::string& from, const std::string& to)
     return bytes && WriteFileReplacing(to, *bytes);
 }
 
-std::string Upper(std::string_view text)
-{
-    std::string out(text);
-    for (char& c : out)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return out;
-}
-
-std::string Lower(std::string_view text)
-{
-    std::string out(text);
-    for (char& c : out)
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    return out;
-}
-
 bool LineReader::next(std::string& line)
 {
     if (pos >= lines.size())

@@ -31,12 +31,6 @@ bool WriteFileReplacing(const std::string& path, std::string_view bytes);
 /// source can't be read or the target can't be written.
 bool CopyFileReplacing(const std::string& from, const std::string& to);
 
-/// The text upper-cased in ASCII (other bytes stay as they are).
-std::string Upper(std::string_view text);
-
-/// The text lower-cased in ASCII.
-std::string Lower(std::string_view text);
-
 /// Reads lines one after another from bytes already in memory.
 struct LineReader
 {
