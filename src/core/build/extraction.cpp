@@ -82,7 +82,7 @@ struct Reader
         std::string value;
         if (!key(k, value))
             return false;
-        if (model::ToUpper(value) == "NONE")
+        if (model::EqualsNoCase(value, "NONE"))
             value.clear();
         if (listType && !text.empty() && text.front() == ',')
             text = std::string(model::LTrim(std::string_view(text).substr(1)));
@@ -123,7 +123,7 @@ struct Reader
         if (s.build.entryPreview)
             return true;
         const std::string head = "INPUT TYPE -> " + model::ToUpper(type) + "\r FOR ->LINK TO\r";
-        if (model::ToUpper(v.LinkTo) == "NONE")
+        if (model::EqualsNoCase(v.LinkTo, "NONE"))
             return fail(head + "CANNOT BE SET TO " + model::ToUpper(v.LinkTo) +
                             "\r YOU MUST HAVE WEB PAGE LINK.\r\r"
                             "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN HE CLICKS ON THE CANCEL BUTTON"

@@ -95,14 +95,14 @@ void ExtractSetupEntry(Session& s, UiPort& ui, std::string& text)
                     ReadSetupKey(s, ui, text, "[TOTAL FRAMES", totalFrames);
     if (!ok)
         return;
-    if (model::ToUpper(v.EMAIL2) == "NONE")
+    if (model::EqualsNoCase(v.EMAIL2, "NONE"))
         v.EMAIL2.clear();
-    if (model::ToUpper(v.EMAIL3) == "NONE")
+    if (model::EqualsNoCase(v.EMAIL3, "NONE"))
         v.EMAIL3.clear();
     v.TotalFrames = static_cast<int>(model::LeadingWhole(totalFrames, 100000000L));
 
     // The mode's own values: the frame belongs to a FORM only.
-    v.FrameOff = (model::ToUpper(mode) == "FORM" && model::ToUpper(v.IncludeFrame) == "YES") ? 0 : 1;
+    v.FrameOff = (model::EqualsNoCase(mode, "FORM") && model::EqualsNoCase(v.IncludeFrame, "YES")) ? 0 : 1;
     v.BackgroundColorHex = model::ColorToHex(v.BackgroundColor);
     v.SubmitButtonColorHex = model::ColorToHex(v.SubmitButtonColor);
     v.FrameBorderColorHex = model::ColorToHex(v.FrameBorderColor);

@@ -184,22 +184,22 @@ bool KeepPairTogether(model::EntryStore& store, int page, int row)
 
 bool IsConditionType(std::string_view inputType)
 {
-    return model::ToUpper(inputType.substr(0, 9)) == "CONDITION";
+    return model::EqualsNoCase(inputType.substr(0, 9), "CONDITION");
 }
 
 bool IsFollowupType(std::string_view inputType)
 {
-    return model::ToUpper(inputType.substr(0, 8)) == "FOLLOWUP";
+    return model::EqualsNoCase(inputType.substr(0, 8), "FOLLOWUP");
 }
 
 bool IsDownloadKey(std::string_view key)
 {
-    return model::ToUpper(key.substr(0, 5)) == "DOWNL";
+    return model::EqualsNoCase(key.substr(0, 5), "DOWNL");
 }
 
 bool IsConditionKey(std::string_view key)
 {
-    return model::ToUpper(key.substr(0, 5)) == "CONDI";
+    return model::EqualsNoCase(key.substr(0, 5), "CONDI");
 }
 
 } // namespace tq::build

@@ -124,10 +124,10 @@ void WriteDownloadList(Session& s)
     out.line("<p align=" + Quoted(v.ALIGN) + "><font face=" + Quoted(kFace) + "color=" + Quoted(v.TextColorHex) +
              " size=" + Quoted("3") + ">");
     WriteItalicOpen(s);
-    const bool labels = model::ToUpper(v.ShowFileLabels) == "YES";
-    const bool left = model::ToUpper(v.ALIGN) == "LEFT";
+    const bool labels = model::EqualsNoCase(v.ShowFileLabels, "YES");
+    const bool left = model::EqualsNoCase(v.ALIGN, "LEFT");
     for (int i = 1; i <= b.downloadFileCount && i <= build::kDownloadFileSlots; ++i) {
-        if (model::ToUpper(v.VisibleDownload) == "NO" || model::ToUpper(v.VisibleDownloadPassword) == "NO")
+        if (model::EqualsNoCase(v.VisibleDownload, "NO") || model::EqualsNoCase(v.VisibleDownloadPassword, "NO"))
             break;
         // a number's text keeps its leading blank: the label reads "File  1:"
         const std::string number = " " + std::to_string(i);
@@ -150,7 +150,7 @@ void WriteDownloadList(Session& s)
 
 std::string TextToAttribute(const std::string& dataFolder, const std::string& text, bool keepBlanks)
 {
-    if (model::ToUpper(text) == "NONE" || text.size() < 5)
+    if (model::EqualsNoCase(text, "NONE") || text.size() < 5)
         return text;
     std::string value = ThroughScratchFile(dataFolder, text);
     model::ReplaceAll(value, "\r\n", "\\n");
@@ -166,7 +166,7 @@ std::string TextToAttribute(const std::string& dataFolder, const std::string& te
 
 std::string AttributeToText(const std::string& dataFolder, const std::string& text)
 {
-    if (model::ToUpper(text) == "NONE")
+    if (model::EqualsNoCase(text, "NONE"))
         return text;
     std::string value = ThroughScratchFile(dataFolder, text);
     if (value.size() >= 2 && value.compare(value.size() - 2, 2, "\r\n") == 0)

@@ -213,7 +213,7 @@ void DispatchEntry(Session& s,
         return;
     }
 
-    const bool survey = model::ToUpper(s.store.state.ProjectMode) == "SURVEY";
+    const bool survey = model::EqualsNoCase(s.store.state.ProjectMode, "SURVEY");
     switch (row.writer) {
     case EntryWriter::None:
     case EntryWriter::HorizontalLine:

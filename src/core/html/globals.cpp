@@ -13,7 +13,7 @@ void ApplyGlobals(Session& s)
 {
     auto& setup = s.build.setupValues;
     auto& v = s.build.values;
-    if (model::ToUpper(setup.GlobalAlign) != "NONE") {
+    if (!model::EqualsNoCase(setup.GlobalAlign, "NONE")) {
         setup.SubmitAlign = setup.GlobalAlign;
         v.ALIGN = setup.GlobalAlign;
         v.LineAlign = setup.GlobalAlign;
@@ -24,7 +24,7 @@ void ApplyGlobals(Session& s)
             v.TextColorHex = "0";
         }
     }
-    if (model::ToUpper(setup.GlobalTextColor) != "NONE") {
+    if (!model::EqualsNoCase(setup.GlobalTextColor, "NONE")) {
         v.TextColor = setup.GlobalTextColor;
         v.TextColorHex = model::ColorToHex(setup.GlobalTextColor);
     }

@@ -16,7 +16,7 @@ build::LineWriter& Out(Session& s)
 
 bool IsOn(std::string_view value)
 {
-    return model::ToUpper(value) == "ON";
+    return model::EqualsNoCase(value, "ON");
 }
 
 // The pair rule: a condition and its followup share one number, "4a" and "4b".
@@ -163,7 +163,7 @@ void WriteSurveyLines(Session& s, std::string_view required, const std::string& 
         return;
     }
     auto& lines = s.build.TitleLines;
-    if (model::ToUpper(required) == "YES" && lines.count() > 0)
+    if (model::EqualsNoCase(required, "YES") && lines.count() > 0)
         lines.items[0] = "* " + lines.items[0];
     if (IsFormA(t))
         WriteFormA(s);
@@ -191,7 +191,7 @@ std::string PreviewFieldName(std::string_view inputType)
 
 bool IsSurvey(const Session& s)
 {
-    return model::ToUpper(s.store.state.ProjectMode) == "SURVEY";
+    return model::EqualsNoCase(s.store.state.ProjectMode, "SURVEY");
 }
 
 void AppendMessageLine(build::BuildState& b, std::string text)
@@ -210,7 +210,7 @@ void NumberForMessage(build::BuildState& b, std::string& caption, std::string_vi
 
 void NumberForPage(build::BuildState& b, std::string& title, std::string_view inputType)
 {
-    if (model::ToUpper(b.setupValues.NumberEachQuestion) != "YES")
+    if (!model::EqualsNoCase(b.setupValues.NumberEachQuestion, "YES"))
         return;
     const std::string n = PairNumber(b.questionNumber, inputType);
     const std::string prefix = model::ContainsNoCase(n, "B") ? "&nbsp;&nbsp;&nbsp;" + n + ". &nbsp;" : n + ". &nbsp;";
@@ -258,7 +258,7 @@ void WriteFormHeading(Session& s, std::string_view title, std::string_view requi
     if (!title.empty())
         SplitTitle(s.build, title);
     out.line(ParagraphOpen(s.build.values));
-    if (model::ToUpper(req) == "YES")
+    if (model::EqualsNoCase(req, "YES"))
         out.piece("* ");
     const auto& lines = s.build.TitleLines;
     for (int i = 1; i <= lines.count(); ++i) {

@@ -12,7 +12,7 @@ namespace {
 
 bool IsOn(std::string_view value)
 {
-    return model::ToUpper(value) == "ON";
+    return model::EqualsNoCase(value, "ON");
 }
 
 std::string TableFont(const build::WorkingValues& v)
@@ -26,7 +26,7 @@ void WriteTable(Session& s, std::string_view field, std::string_view inputType, 
     auto& out = s.build.channels[1];
     auto& b = s.build;
     const auto& v = b.values;
-    const bool req = model::ToUpper(required) == "YES";
+    const bool req = model::EqualsNoCase(required, "YES");
     const bool italics = IsOn(v.TableItalics);
     const bool bold = IsOn(v.TableBold);
 

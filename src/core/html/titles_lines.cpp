@@ -17,7 +17,7 @@ namespace {
 
 bool IsOn(std::string_view value)
 {
-    return model::ToUpper(value) == "ON";
+    return model::EqualsNoCase(value, "ON");
 }
 
 // The video lines; `closing` ends the img tag.
@@ -27,7 +27,8 @@ void WriteVideoLines(Session& s, std::string_view closing)
     const auto& v = s.build.values;
     out.line("<p align=" + Quoted(v.VideoAlign) + ">");
     out.piece("<img border=" + Quoted("0") + " dynsrc=" + Quoted(v.ServerPath));
-    out.piece(model::ToUpper(v.Autostart) == "ON" ? " start=" + Quoted("fileopen") : " start=" + Quoted("mouseover"));
+    out.piece(model::EqualsNoCase(v.Autostart, "ON") ? " start=" + Quoted("fileopen")
+                                                     : " start=" + Quoted("mouseover"));
     out.line(" width=" + Quoted(v.VideoWidth) + " height=" + Quoted(v.VideoHeight) + " loop=" + Quoted(v.Loop) +
              std::string(closing));
 }
@@ -79,7 +80,7 @@ void WriteTitleShade(Session& s)
     out.line("<td width=" + Quoted("100%") + " align=" + Quoted("center") + " height=" + Quoted("4") + "></td>");
     out.line("  </tr>");
     out.line("</table>");
-    if (model::ToUpper(v.ALIGN) != "CENTER")
+    if (!model::EqualsNoCase(v.ALIGN, "CENTER"))
         out.line("<br><br>");
 }
 
@@ -126,7 +127,7 @@ void WritePicture(Session& s)
 {
     auto& b = s.build;
     const auto& v = b.values;
-    if (model::ToUpper(v.ServerPath) == "NONE")
+    if (model::EqualsNoCase(v.ServerPath, "NONE"))
         return;
     if (!IsSurvey(s) && b.lastPhpSlot != 3)
         b.channels[1].line("<br><br>");

@@ -33,7 +33,7 @@ struct Cursor
 bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, int& err, std::string* serverFolderPath)
 {
     err = 0;
-    const std::string k(key);
+    const auto k = [key] { return std::string(key); }; // only messages need it as a string
 
     // 1. leading blanks go
     while (cur.off < cur.buf.size() && cur.buf[cur.off] == ' ')
@@ -50,7 +50,7 @@ bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     if (!StartsWithNoCase(t, "[INFO") && !StartsWithNoCase(t, "[DEFAULT VALUE")) {
         const size_t rb = t.find(']');
         if (rb == npos) {
-            ui.message("Right bracket is missing in " + k + "\r\rFormat should be [XXXX=]", "FORMAT ERROR",
+            ui.message("Right bracket is missing in " + k() + "\r\rFormat should be [XXXX=]", "FORMAT ERROR",
                        Icon::Exclamation);
             err = 1;
             return false;
@@ -63,7 +63,7 @@ bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
             else
                 eqBehind = t.find('=', rb + 1) != npos;
             if (eqBehind) {
-                ui.message("Equals sign needs to follow the [ bracket in " + k + "\r\rFormat should be [XXXX=]",
+                ui.message("Equals sign needs to follow the [ bracket in " + k() + "\r\rFormat should be [XXXX=]",
                            "FORMAT ERROR", Icon::Exclamation);
                 err = 1;
             }
@@ -74,7 +74,7 @@ bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     if (!StartsWithNoCase(t, key)) {
         const size_t rb = t.find(']');
         const std::string_view show = rb == npos ? t : t.substr(0, rb + 1);
-        ui.message("Cannot find left [ bracket in " + k + "\r\r" + std::string(show), "error", Icon::Critical);
+        ui.message("Cannot find left [ bracket in " + k() + "\r\r" + std::string(show), "error", Icon::Critical);
         err = 1;
         return false;
     }
@@ -82,7 +82,7 @@ bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     // 5. (the wording with "left" is the program's own)
     const size_t rb = t.find(']');
     if (rb == npos) {
-        ui.message("Cannot find left ] bracket in " + k + "\r\r", "error", Icon::Critical);
+        ui.message("Cannot find left ] bracket in " + k() + "\r\r", "error", Icon::Critical);
         err = 1;
         return false;
     }
@@ -96,7 +96,7 @@ bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
             const size_t a = t.substr(0, b - 1).find('[', 1);
             if (a != npos) {
                 err = 1;
-                ui.message("Right ] bracket is missing in " + k + "\r\r", "error", Icon::Critical);
+                ui.message("Right ] bracket is missing in " + k() + "\r\r", "error", Icon::Critical);
                 return false;
             }
         }
@@ -105,7 +105,7 @@ bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     // 7. "]]" or "] ]"
     if ((rb + 1 < t.size() && t[rb + 1] == ']') || (rb + 2 < t.size() && t[rb + 2] == ']')) {
         err = 1;
-        ui.message("You cannot have 2 Right ]] brackets in " + k + "\r\r", "error", Icon::Critical);
+        ui.message("You cannot have 2 Right ]] brackets in " + k() + "\r\r", "error", Icon::Critical);
         return false;
     }
 
@@ -136,9 +136,9 @@ bool TakeAt(UiPort& ui, std::string_view key, std::string& value, Cursor& cur, i
     if (nr == npos) {
         const std::string show(nl != npos ? t.substr(0, nl) : t);
         if (t[0] != ']')
-            ui.message("Cannot find right ] bracket in " + k + "\r\r" + show, "error", Icon::Critical);
+            ui.message("Cannot find right ] bracket in " + k() + "\r\r" + show, "error", Icon::Critical);
         else
-            ui.message(k +
+            ui.message(k() +
                            " is not a valid entry.\r\rShould have a left bracket, followed by a = sign followed by "
                            "a right bracket\r\rExample: [TITLE=This is a test]\r\r" +
                            show,

@@ -101,7 +101,11 @@ bool ReorderEntries(EntryStore& store, UiPort& ui)
     };
     std::vector<Moved> sorted;
     const int maxEntries = store.MaxEntries;
-    for (int k = 1; k <= maxEntries; ++k)
+    // A row's number is the same in every pass (a cut number reads as the
+    // bound it was cut to), so it is read once, in the order of the first pass.
+    std::array<double, kPageCount * kRowsPerPage> numbers{};
+    std::array<bool, kPageCount * kRowsPerPage> filled{};
+    if (maxEntries >= 1)
         for (int page = 1; page <= kPageCount; ++page)
             for (int row = 0; row < kRowsPerPage; ++row) {
                 Entry& e = GetEntry(store, page, row);
@@ -117,9 +121,16 @@ bool ReorderEntries(EntryStore& store, UiPort& ui)
                     st.buildError = 1;
                     return false;
                 }
-                // a fractional number matches no k: its row is dropped below
-                if (n == k && !Trim(e.InputTypeName).empty())
-                    sorted.push_back({e.InputTypeName, e.AttributeText});
+                const auto at = static_cast<size_t>(RowOrdinal(page, row) - 1);
+                numbers[at] = n;
+                filled[at] = !Trim(e.InputTypeName).empty();
+            }
+    for (int k = 1; k <= maxEntries; ++k)
+        for (size_t at = 0; at < numbers.size(); ++at)
+            // a fractional number matches no k: its row is dropped below
+            if (numbers[at] == k && filled[at]) {
+                const Entry& e = store.pages[at / kRowsPerPage][at % kRowsPerPage];
+                sorted.push_back({e.InputTypeName, e.AttributeText});
             }
 
     // 5

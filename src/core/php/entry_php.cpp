@@ -96,7 +96,7 @@ bool HasEntryPhp(std::string_view inputType)
 
 void NumberMessages(build::BuildState& state, std::string_view inputType, std::string& msg, std::string& msg2)
 {
-    if (model::ToUpper(state.setupValues.NumberEachQuestion) != "YES")
+    if (!model::EqualsNoCase(state.setupValues.NumberEachQuestion, "YES"))
         return;
     const std::string t = model::ToUpper(inputType);
     std::string label;
@@ -132,7 +132,7 @@ void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::
     std::string msg = v.MSG;
     std::string msg2 = v.MSG2;
     NumberMessages(state, t, msg, msg2);
-    const bool required = model::ToUpper(v.REQ) == "YES";
+    const bool required = model::EqualsNoCase(v.REQ, "YES");
     build::LineWriter& out = state.channels[1];
 
     if (OneOf(t, {"NAME", "SUBJECT", "PHONE NUMBER", "CELL PHONE NUMBER", "COMMENTS REQUIRED", "COMMENTS NOT REQUIRED",
@@ -206,7 +206,7 @@ void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inp
     std::string req = v.REQ;
     if (t == "FOLLOWUP FILES WITH PASSWORD")
         req = "yes";
-    const bool required = model::ToUpper(req) == "YES";
+    const bool required = model::EqualsNoCase(req, "YES");
     build::LineWriter& out = state.channels[1];
 
     if (t == "DOWNLOAD FILES") {
@@ -229,7 +229,7 @@ void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inp
         return;
 
     const std::string p = model::ToUpper(state.lastConditionField.substr(0, 5));
-    if (p == "DOWNL" && model::ToUpper(key.substr(0, 5)) != "FOLLO") {
+    if (p == "DOWNL" && !model::EqualsNoCase(key.substr(0, 5), "FOLLO")) {
         // this type's key always starts with "follo": kept as the format has it
         ShowPairingError(ui, t, " must follow a download-");
         state.buildError = 1;

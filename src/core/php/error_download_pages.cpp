@@ -78,7 +78,7 @@ void WriteDownloadFile(build::LineWriter& out, const build::BuildState& state, s
         out.line("    href=\"" + std::string(serverPath) + file + "\">" + file + "</a></font></b>");
     }
     const std::string& home = state.homePage;
-    if (!home.empty() && model::ToUpper(home) != "NONE")
+    if (!home.empty() && !model::EqualsNoCase(home, "NONE"))
         out.line(
             "<p align=\"center\"><a href=\"" + home +
             R"~("><input type="button" value="Home" name="B3" style="font-family: Arial; color: #CC3300; font-size: 18pt"></a></p>)~");

@@ -20,7 +20,7 @@ void WriteLines(build::LineWriter& out, std::initializer_list<std::string_view> 
 
 bool IsRecipient(const std::string& email)
 {
-    return !email.empty() && model::ToUpper(email) != "NONE";
+    return !email.empty() && !model::EqualsNoCase(email, "NONE");
 }
 
 } // namespace

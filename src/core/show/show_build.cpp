@@ -105,14 +105,14 @@ std::vector<std::string> RewriteTemplateLine(std::string_view line, const ShowSe
     if (has("<b>RETURN TO HOME PAGE</b>"))
         return {"<b>" + s.HomeLinkText + "</b>"};
     if (has("do you want to blend between images?"))
-        return {model::ToUpper(s.UseFading) == "YES" ? "$useFading =true;" : "$useFading =false;"};
+        return {model::EqualsNoCase(s.UseFading, "YES") ? "$useFading =true;" : "$useFading =false;"};
     if (has("$imgsperline=5"))
         return {"$imgsperline=" + CutListValue(s.ImagesPerLine, 2) + ";"};
     if (has("  $imgspercolumn"))
         return {"$imgspercolumn=" + CutListValue(s.ColumnsPerLine, 2) + ";"};
     if (has("  $allowZip=true;"))
         // the two leading blanks stay, unlike the other lines written here
-        return {model::ToUpper(s.AllowZip) == "YES" ? "  $allowZip=true;" : "  $allowZip=false;"};
+        return {model::EqualsNoCase(s.AllowZip, "YES") ? "  $allowZip=true;" : "  $allowZip=false;"};
     if (has("Image browser"))
         return {"$browsertitle=\"" + s.BrowserTitle + "\";"};
     if (has("$fadeMode  =rand(0,4)")) {

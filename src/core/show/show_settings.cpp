@@ -15,7 +15,7 @@ const std::string_view kShowHelpText =
 
 void ApplyFadeSwitch(ShowPage& page)
 {
-    page.fadeFieldsEnabled = model::ToUpper(page.settings.UseFading) == "YES";
+    page.fadeFieldsEnabled = model::EqualsNoCase(page.settings.UseFading, "YES");
 }
 
 std::string RemoveTrailingSeparator(std::string_view path)

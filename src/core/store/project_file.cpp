@@ -133,7 +133,8 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
     FileDialogOptions options;
     options.title = "Enter the Filename";
     options.initialFolder = s.DataFolder;
-    options.filter = model::ToUpper(extension) == "FMS" ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
+    options.filter =
+        model::EqualsNoCase(extension, "FMS") ? "Form Files (*.fms) | *.fms" : "Survey Files (*.srv) | *.srv";
     options.initialName = s.run.LastFormFile; // also when a survey is saved
     auto chosen = ui.saveFileDialog(options);
     if (!chosen || chosen->empty()) {
@@ -242,7 +243,7 @@ int OpenProject(
         s.run.CurrentProjectName = s.run.CurrentProjectName.substr(at);
         path = s.run.CurrentProjectName;
     } else {
-        const bool form = model::ToUpper(extension) == "FMS";
+        const bool form = model::EqualsNoCase(extension, "FMS");
         FileDialogOptions options;
         options.initialName = s.run.LastProjectPath;
         options.initialFolder = s.DataFolder;
@@ -271,7 +272,7 @@ int OpenProject(
     ui.entriesChanged();
     RefreshStatus(s);
     UpdateRecentList(s, ui);
-    if (model::ToUpper(state.ProjectMode) == "FORM")
+    if (model::EqualsNoCase(state.ProjectMode, "FORM"))
         RefreshFormList(s, ui);
     else
         RefreshSurveyList(s, ui);
@@ -305,7 +306,7 @@ void RefreshStatus(Session& s)
     for (int i = 0; i < 4; ++i)
         st.pageCaptions[static_cast<size_t>(i)] =
             "Page " + std::to_string(i + 1) + " of 4     Create: " + model::ToProperCase(mode);
-    if (model::ToUpper(mode) == "SURVEY") {
+    if (model::EqualsNoCase(mode, "SURVEY")) {
         st.buildMenu = "&Build-Survey";
         st.buildOnly = "Build Survey Only";
         st.buildWithHtml = "Build Survey With HTML";

@@ -99,7 +99,7 @@ std::string HistoryPath(const std::string& dataFolder, RecentList list)
 
 void UpdateRecentList(Session& s, UiPort& ui)
 {
-    const bool form = model::ToUpper(s.store.state.ProjectMode) == "FORM";
+    const bool form = model::EqualsNoCase(s.store.state.ProjectMode, "FORM");
     const std::string h = HistoryPath(s.DataFolder, form ? RecentList::Forms : RecentList::Surveys);
     auto bytes = ReadWholeFile(h);
     if (!bytes)
