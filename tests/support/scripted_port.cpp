@@ -141,6 +141,23 @@ const Shown& ScriptedPort::last() const
     return shown.back();
 }
 
+::testing::AssertionResult Said(const Shown& m, std::string_view text, std::string_view title, Icon icon)
+{
+    if (m.text == text && m.title == title && (icon == Icon::None || m.icon == icon))
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "shown \"" << m.title << ": " << m.text << "\" (icon "
+                                         << static_cast<int>(m.icon) << "), expected \"" << title << ": " << text
+                                         << "\" (icon " << static_cast<int>(icon) << ")";
+}
+
+std::string Repeat(std::string_view text, int n)
+{
+    std::string out;
+    for (int i = 0; i < n; ++i)
+        out += text;
+    return out;
+}
+
 std::string ReadFileBytes(const std::string& path)
 {
     std::ifstream in(path, std::ios::binary);

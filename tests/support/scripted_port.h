@@ -4,6 +4,7 @@
 #include "port/ui_port.h"
 
 #include <deque>
+#include <gtest/gtest.h>
 #include <optional>
 #include <string>
 #include <vector>
@@ -105,6 +106,12 @@ class ScriptedPort : public UiPort
 std::string ReadFileBytes(const std::string& path);
 /// Writes bytes to a file, creating its folder.
 void WriteFileBytes(const std::string& path, const std::string& bytes);
+
+/// Whether a message has this text, title and icon (Icon::None: any icon).
+::testing::AssertionResult Said(const Shown& m, std::string_view text, std::string_view title, Icon icon = Icon::None);
+
+/// The text `n` times over.
+std::string Repeat(std::string_view text, int n);
 
 /// A fresh temporary folder, removed with the object.
 class TempDir

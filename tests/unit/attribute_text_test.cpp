@@ -25,9 +25,7 @@ Read Take(test::ScriptedPort& port, std::string_view key, std::string text, std:
 
 void ExpectMessage(const test::Shown& m, const std::string& text, const std::string& title, Icon icon)
 {
-    EXPECT_EQ(m.text, text);
-    EXPECT_EQ(m.title, title);
-    EXPECT_EQ(m.icon, icon);
+    EXPECT_TRUE(Said(m, text, title, icon));
 }
 
 } // namespace
@@ -260,9 +258,7 @@ TEST(TakeChoiceList, PassingTheBoundIsAnInternalError)
     test::ScriptedPort port;
     ChoiceList list;
     int err = 0;
-    std::string items;
-    for (int i = 0; i < 100; ++i)
-        items += "c" + std::to_string(i) + ",";
+    const std::string items = test::Repeat("c,", 100);
     std::string text = "[Choices=" + items + "]";
     TakeChoiceList(port, "CHOICES", text, list, err);
     EXPECT_EQ(list.count(), 100);
@@ -290,10 +286,7 @@ TEST(SplitLines, EmptyTextKeepsThePreviousLinesAndTheTextIsConsumed)
     SplitLines(text, lines);
     EXPECT_EQ(lines.items, (std::vector<std::string>{"x", "y"}));
 
-    std::string many;
-    for (int i = 0; i < 101; ++i)
-        many += "l\\n";
-    EXPECT_THROW(SplitLines(many), InternalError);
+    EXPECT_THROW(SplitLines(test::Repeat("l\\n", 101)), InternalError);
 }
 
 TEST(SplitHtmlLines, KeepsEmptyLinesAndBlanks)
@@ -318,23 +311,18 @@ TEST(SplitHtmlLines, RunsOfBlanksBecomeNbspLosingThreeCharacters)
 
 TEST(SplitHtmlLines, PassingTheBoundIsAnInternalError)
 {
-    std::string text;
-    for (int i = 0; i < 150; ++i)
-        text += "l\\n";
+    const std::string text = test::Repeat("l\\n", 150);
     EXPECT_EQ(SplitHtmlLines(text).count(), 150);
     EXPECT_THROW(SplitHtmlLines(text + "x"), InternalError);
 }
 
 TEST(ColorToHex, RedInTheLowByte)
 {
-    EXPECT_EQ(ColorToHex(""), "");
-    EXPECT_EQ(ColorToHex("255"), "FF0000");
-    EXPECT_EQ(ColorToHex("16711680"), "0000FF");
-    EXPECT_EQ(ColorToHex("12632256"), "C0C0C0");
-    EXPECT_EQ(ColorToHex("16777215"), "FFFFFF");
-    EXPECT_EQ(ColorToHex("0"), "000000");
-    EXPECT_EQ(ColorToHex("500"), "F40100");
-    EXPECT_EQ(ColorToHex("none"), "000000");
+    const std::pair<const char*, const char*> cases[] = {
+        {"", ""},        {"255", "FF0000"}, {"16711680", "0000FF"}, {"12632256", "C0C0C0"},
+        {"0", "000000"}, {"500", "F40100"}, {"none", "000000"}};
+    for (const auto& [in, hex] : cases)
+        EXPECT_EQ(ColorToHex(in), hex) << in;
 }
 
 TEST(RemoveLineBreaks, JoinsAroundEveryBreak)
@@ -393,53 +381,6 @@ TEST(AttributeGroups, LineGroupReadsStoredLines)
     TakeLineGroup(port, text, width, size, align, color, err);
     EXPECT_EQ(err, 1);
     EXPECT_EQ(port.shown.size(), 1u);
-}
-
-TEST(NormalizeAttributeText, ChoiceTemplateGetsOneItemPerLineInBlocks)
-{
-    test::ScriptedPort port;
-    const std::string in =
-        "[Title=Select your level of play] [Info: A description on what the user should enter for this question] "
-        "[Error Message=You have not selected a level of play] [Info: Error message to the user when the user does "
-        "not answer the question correctly] [Title Size=3] [Info: Enter Font Size] [Default Check Box=none] [Info: "
-        "DEFAULT CHECK BOX will default to that selection or enter NONE] [Check Box=Beginner,Intermediate,Advanced] "
-        "[Choices=User selections] [Align=left] [Choices=left,right,center] [Italics=off] [Info: Choices are on or "
-        "off] [Bold=off] [Info: Choices are on or off] [Text Color=0] [Choices=Change the current color.] "
-        "[Required=yes] [Info: Choices are YES or NO. YES requires an entry from the user]";
-    const std::string expected =
-        "[Title=Select your level of play]\r\n"
-        "[Info: A description on what the user should enter for this question]\r\n"
-        "\r\n"
-        "[Error Message=You have not selected a level of play]\r\n"
-        "[Info: Error message to the user when the user does not answer the question correctly]\r\n"
-        "\r\n"
-        "[Title Size=3]\r\n"
-        "[Info: Enter Font Size]\r\n"
-        "\r\n"
-        "[Default Check Box=none]\r\n"
-        "[Info: DEFAULT CHECK BOX will default to that selection or enter NONE]\r\n"
-        "\r\n"
-        "[Check Box=Beginner,Intermediate,Advanced]\r\n"
-        "[Choices=User selections]\r\n"
-        "\r\n"
-        "[Align=left]\r\n"
-        "[Choices=left,right,center]\r\n"
-        "\r\n"
-        "[Italics=off]\r\n"
-        "[Info: Choices are on or off]\r\n"
-        "\r\n"
-        "[Bold=off]\r\n"
-        "[Info: Choices are on or off]\r\n"
-        "\r\n"
-        "[Text Color=0]\r\n"
-        "[Choices=Change the current color.]\r\n"
-        "\r\n"
-        "[Required=yes]\r\n"
-        "[Info: Choices are YES or NO. YES requires an entry from the user]\r\n";
-    EXPECT_EQ(NormalizeAttributeText(port, in), expected);
-    EXPECT_TRUE(port.shown.empty());
-    // the stored form read back by RemoveLineBreaks normalises to itself
-    EXPECT_EQ(NormalizeAttributeText(port, RemoveLineBreaks(expected)), expected);
 }
 
 TEST(NormalizeAttributeText, BlockKeyFirstLosesItsBlankLineAndRunsBecomeOne)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The build driver: output paths, the folder test, the questions about
-// existing output files and their answers, preview builds.
 #include "build/build_driver.h"
+#include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
 
@@ -21,36 +20,6 @@ using tq::test::WriteFileBytes;
 
 namespace {
 
-// A SetupEntry whose values all build: the FORM template's keys in order,
-// each closed by its help item.
-std::string SetupText(const std::string& folder,
-                      const std::string& output,
-                      const std::string& frame = "NO",
-                      const std::string& lead = "")
-{
-    return lead + "[Drive Folder Path=" + folder + "] [Info: folder]\r\n" + "[TQL Output File=" + output +
-           "] [Info: file]\r\n"
-           "[FROM=My Web Page] [Info: from]\r\n"
-           "[Completed=thankyou.htm] [Info: page]\r\n"
-           "[GLOBAL ALIGN=NONE] [Info: align]\r\n"
-           "[GLOBAL TEXT COLOR=NONE] [Choices=NONE]\r\n"
-           "[Submit Name=Submit Form] [Info: name]\r\n"
-           "[SUBMIT ALIGN=LEFT] [Choices=left]\r\n"
-           "[Submit Button Color=0] [Choices=colour]\r\n"
-           "[Background image path=;https://www.tarnquill.example/test/cloudark.gif] [Info: image]\r\n"
-           "[Email #1=webmaster@tarnquill.example] [Info: mail]\r\n"
-           "[Email #2=none] [Info: mail]\r\n"
-           "[Email #3=none] [Info: mail]\r\n"
-           "[Number Each Question=YES] [Info: numbers]\r\n"
-           "[Show Tool Tips=YES] [Info: tips]\r\n"
-           "[Include Frame With Form=" +
-           frame +
-           "] [Info: frame]\r\n"
-           "[Frame Border Color=52736] [Info: colour]\r\n"
-           "[Frame Color=16384] [Info: colour]\r\n"
-           "[Total Frames=1] [Info: frames]\r\n";
-}
-
 struct Project
 {
     TempDir web;
@@ -63,7 +32,7 @@ struct Project
         s->store.state.ProjectMode = "FORM";
         auto& setupRow = s->store.pages[0][0];
         setupRow.InputTypeName = "Setup";
-        setupRow.AttributeText = SetupText(web.path(), output);
+        setupRow.AttributeText = tq::test::SetupEntryText(web.path(), {.output = output});
     }
 
     void add(int row, const std::string& type, const std::string& text)
@@ -129,17 +98,17 @@ TEST(BuildDriver, AMissingWebFolderGivesPathErrorAndOpensTheSetupEntry)
 {
     Project p;
     const std::string missing = p.web.file("gone");
-    p.s->store.pages[0][0].AttributeText = SetupText(missing, "formtql.htm");
+    p.s->store.pages[0][0].AttributeText = tq::test::SetupEntryText(missing);
     ScriptedPort port;
     BuildOutput(*p.s, port, 1);
     EXPECT_EQ(p.s->build.buildError, 1);
     ASSERT_EQ(port.shown.size(), 1u);
-    EXPECT_EQ(port.last().title, "PATH ERROR");
-    EXPECT_EQ(port.last().icon, Icon::Critical);
-    EXPECT_EQ(port.last().text,
-              "The path to the current web folder does not exist\r\rPath: " + missing +
-                  "   does not exist\r\rThe invalid path will now be highlighted. Please correct the error and try "
-                  "again");
+    EXPECT_TRUE(
+        Said(port.last(),
+             "The path to the current web folder does not exist\r\rPath: " + missing +
+                 "   does not exist\r\rThe invalid path will now be highlighted. Please correct the error and try "
+                 "again",
+             "PATH ERROR", Icon::Critical));
     ASSERT_EQ(port.editCalls.size(), 1u);
     EXPECT_EQ(port.editCalls[0].page, 1);
     EXPECT_EQ(port.editCalls[0].row, 0);
@@ -201,9 +170,7 @@ TEST(BuildDriver, NoToReplacingSaysChangeFileAndStops)
     BuildOutput(*p.s, port, 1);
     EXPECT_EQ(p.s->build.buildError, 1);
     ASSERT_EQ(port.shown.size(), 3u);
-    EXPECT_EQ(port.last().title, "CHANGE FILE");
-    EXPECT_EQ(port.last().icon, Icon::Exclamation);
-    EXPECT_EQ(port.last().text, "Change " + p.php() + " in setup and try again");
+    EXPECT_TRUE(Said(port.last(), "Change " + p.php() + " in setup and try again", "CHANGE FILE", Icon::Exclamation));
     EXPECT_EQ(ReadFileBytes(p.html()), "old page");
     EXPECT_EQ(ReadFileBytes(p.php()), "old script");
     EXPECT_TRUE(port.editCalls.empty());
@@ -342,7 +309,7 @@ Video(const std::string& path, const std::string& align, const std::string& auto
 TEST(WholeBuild, FormWithTitlesLinesPicturesAndVideosInAFrame)
 {
     Project p;
-    p.s->store.pages[0][0].AttributeText = SetupText(p.web.path(), "formtql.htm", "YES");
+    p.s->store.pages[0][0].AttributeText = tq::test::SetupEntryText(p.web.path(), {.frame = "YES"});
     p.add(1, "Title Shade", kTitleShade);
     p.add(2, "Horizontal Line", kLine);
     p.add(3, "Blank Line", kBlank);
@@ -360,8 +327,8 @@ TEST(WholeBuild, SurveyPutsVideosAndPicturesInTheWrapperTable)
 {
     Project p("surveytql.htm");
     p.s->store.state.ProjectMode = "SURVEY";
-    p.s->store.pages[0][0].AttributeText =
-        SetupText(p.web.path(), "surveytql.htm", "YES", "[Background Color=9022343] [Info: c]\r\n");
+    p.s->store.pages[0][0].AttributeText = tq::test::SetupEntryText(
+        p.web.path(), {.output = "surveytql.htm", .frame = "YES", .lead = "[Background Color=9022343] [Info: c]\r\n"});
     p.add(1, "Title Shade", kTitleShade);
     p.add(2, "Video", Video("clip.avi", "right", "off", "infinite"));
     p.add(3, "Picture", kPicture);

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A build first puts the rows in the order of their reference numbers,
-// silently, and compacts them; an order number of 0 stops it.
 #include "build/build_driver.h"
 #include "scripted_port.h"
 #include "session.h"
@@ -89,9 +87,8 @@ TEST(BuildReorder, AnOrderNumberOfZeroStopsTheBuild)
     tq::build::CreateFormOnly(f.s, f.port);
     EXPECT_EQ(f.s.build.buildError, 1);
     ASSERT_FALSE(f.port.shown.empty());
-    EXPECT_EQ(f.port.shown.back().title, "ORDER ERROR");
-    EXPECT_EQ(f.port.shown.back().text, "Order number must be greater then 0 and contain a number from 1 to 100");
-    EXPECT_EQ(f.port.shown.back().icon, tq::Icon::Critical);
+    EXPECT_TRUE(Said(f.port.shown.back(), "Order number must be greater then 0 and contain a number from 1 to 100",
+                     "ORDER ERROR", tq::Icon::Critical));
     for (int p = 0; p < 4; ++p)
         for (int r = 0; r < 25; ++r)
             EXPECT_EQ(f.s.store.pages[p][r].InputTypeName, before[p][r].InputTypeName);

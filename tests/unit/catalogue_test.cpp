@@ -38,63 +38,6 @@ std::string ValueOf(const std::string& text, const std::string& key)
 }
 } // namespace
 
-TEST(Catalogue, FormListsItsThirtyThreeTypesInPickListOrder)
-{
-    Built b("FORM");
-    const std::vector<std::string> expected = {"Cancel Button",
-                                               "Blank Line",
-                                               "Cell Phone Number",
-                                               "Checkbox Horizontal",
-                                               "Checkbox Vertical",
-                                               "Comments Not Required",
-                                               "Comments Required",
-                                               "Comments With Text",
-                                               "Condition With Comment",
-                                               "Condition With Dropdown",
-                                               "Condition With Multiple Choices",
-                                               "Download Files",
-                                               "Download Files With Password",
-                                               "Dropdown Not Required",
-                                               "Dropdown Required",
-                                               "Email",
-                                               "Horizontal Line",
-                                               "Name",
-                                               "Password",
-                                               "Phone Number",
-                                               "Picture",
-                                               "Question Multiple Choices",
-                                               "Question Multiple Choices Comments",
-                                               "Question YesNo Not Required",
-                                               "Question YesNo Required",
-                                               "Question YesNo Vertical Required",
-                                               "Security Code",
-                                               "Subject",
-                                               "Title Header",
-                                               "Title 1 Single Line",
-                                               "Title 2 Double Line",
-                                               "User Name",
-                                               "Video"};
-    EXPECT_EQ(Names(b.catalogue), expected);
-    EXPECT_EQ(b.catalogue.CatalogueCount, 32);
-}
-
-TEST(Catalogue, SurveyOffersTablesAndShadeButNoVerticalTypes)
-{
-    Built b("survey");
-    const std::vector<std::string> names = Names(b.catalogue);
-    ASSERT_EQ(names.size(), 35u);
-    EXPECT_EQ(b.catalogue.CatalogueCount, 34);
-    EXPECT_EQ(names[0], "Cancel Button");
-    EXPECT_EQ(names[4], "Comments Not Required");
-    EXPECT_EQ(names[26], "Survey Intro");
-    EXPECT_EQ(names[27], "Table Choices Required");
-    EXPECT_EQ(names[28], "Table Text Required");
-    EXPECT_EQ(names[32], "Title Shade");
-    EXPECT_EQ(names[34], "Video");
-    EXPECT_EQ(FindCatalogueIndex(b.catalogue, "Checkbox Vertical"), -1);
-    EXPECT_EQ(FindCatalogueIndex(b.catalogue, "Question YesNo Vertical Required"), -1);
-}
-
 TEST(Catalogue, IndexSeventeenFollowsTheMode)
 {
     Built form("FORM");
@@ -126,19 +69,6 @@ TEST(Catalogue, IndexesOutsideTheListAreInternalErrors)
     EXPECT_THROW(CatalogueName(b.catalogue, 33), InternalError);
     EXPECT_THROW(CatalogueTemplate(b.catalogue, -1), InternalError);
     EXPECT_NO_THROW(CatalogueTemplate(b.catalogue, 32));
-}
-
-TEST(Catalogue, PairsAndTheirFollowups)
-{
-    EXPECT_EQ(FollowupFor("condition with comment"), "Followup With Comment");
-    EXPECT_EQ(FollowupFor("Condition With Dropdown"), "Followup With Dropdown");
-    EXPECT_EQ(FollowupFor("CONDITION WITH MULTIPLE CHOICES"), "Followup With Multiple Choices");
-    EXPECT_EQ(FollowupFor("Download Files With Password"), "Followup Files With Password");
-    EXPECT_EQ(FollowupFor("Download Files"), "");
-    EXPECT_EQ(PairRows("Condition With Comment"), 2);
-    EXPECT_EQ(PairRows("Followup With Comment"), 1);
-    EXPECT_EQ(PairRows("Name"), 1);
-    EXPECT_TRUE(IsFollowupName("FOLLOWUP FILES WITH PASSWORD"));
 }
 
 TEST(Catalogue, EmptyModeIsReadAsForm)
@@ -240,13 +170,4 @@ TEST(Catalogue, RandomCodeIsEightDiceDrawnAfreshForEachTemplateAndBuild)
     }
     // 10 codes of 6^8 each: a repeat would mean the draws are not fresh
     EXPECT_EQ(codes.size(), 10u);
-}
-
-TEST(Catalogue, RandomSourceIsInjectableAndCoversEveryFace)
-{
-    Catalogue c;
-    const std::vector<double> draws = {0.0, 0.1667, 0.3334, 0.5, 0.6667, 0.8334, 0.9999999, 0.42};
-    size_t i = 0;
-    c.Random = [&] { return draws[i++ % draws.size()]; };
-    EXPECT_EQ(DrawRandomCode(c), "12345663");
 }

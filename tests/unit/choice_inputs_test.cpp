@@ -120,9 +120,8 @@ TEST(Checkboxes, AnEmptyFirstChoiceStopsTheBuildInBothModes)
         EXPECT_EQ(f.s.build.buildError, 1);
         EXPECT_FALSE(f.s.build.channels[1].isOpen());
         ASSERT_EQ(f.port.shown.size(), 1u);
-        EXPECT_EQ(f.port.shown[0].text, "No entry for Pick one\rThere must be a value in the first entry");
-        EXPECT_EQ(f.port.shown[0].title, "NO VALUE");
-        EXPECT_EQ(f.port.shown[0].icon, tq::Icon::Critical);
+        EXPECT_TRUE(Said(f.port.shown[0], "No entry for Pick one\rThere must be a value in the first entry", "NO VALUE",
+                         tq::Icon::Critical));
         EXPECT_EQ(f.Output(), "");
         EXPECT_EQ(f.s.build.messageLineCount, 0);
     }

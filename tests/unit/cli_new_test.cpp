@@ -1,38 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// tarnquill-cli new: the default Entries of the mode and a fresh SetupEntry in
-// the project file format; such a project doesn't build until its samples are
-// replaced, while the shipped samples do.
-#include "run_cli.h"
+#include "cli_fixture.h"
 #include "scripted_port.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <vector>
 
+using tq::test::Cli;
+using tq::test::CliRun;
 using tq::test::ReadFileBytes;
 using tq::test::TempDir;
 using tq::test::WriteFileBytes;
 
 namespace {
-
-struct CliRun
-{
-    int code;
-    std::string out;
-    std::string err;
-};
-
-CliRun Cli(const std::vector<std::string>& args)
-{
-    std::istringstream in;
-    std::ostringstream out;
-    std::ostringstream err;
-    const int code = tq::cli::RunCli(args, in, out, err);
-    return {code, out.str(), err.str()};
-}
 
 // The Input Type names of a project file, in file order.
 std::vector<std::string> TypesOf(const std::string& file)

@@ -33,8 +33,7 @@ TEST_F(Defaults, SaveWritesTheRawPassAndLeavesStatusAndListsAlone)
     port.file(path);
     ASSERT_TRUE(store::SaveDefaults(s, port, false));
     EXPECT_EQ(test::ReadFileBytes(path), ">>Setup\r\n[A=1]\r\n[B=2]\r\n\r\n>>Name\r\n-[Title=n]\r\n");
-    EXPECT_EQ(port.last().text, "Defaults have been saved");
-    EXPECT_EQ(port.last().title, "DEFAULTS SAVED");
+    EXPECT_TRUE(Said(port.last(), "Defaults have been saved", "DEFAULTS SAVED"));
     EXPECT_EQ(s.run.status.fileLabel, "NOTHING IS CURRENTLY LOADED");
     EXPECT_EQ(test::ReadFileBytes(dir.file("FormHistory.txt")), "");
     EXPECT_EQ(s.run.busyMark, store::kIdle);

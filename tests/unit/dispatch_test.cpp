@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The dispatch table and the writers of the Input Types that ask no question:
-// horizontal line, title shade, blank line, video and picture.
 #include "html/dispatch.h"
 #include "html/titles_lines.h"
 #include "model/attribute_text.h"
@@ -81,21 +79,6 @@ TEST(DispatchTable, NamesAreComparedUpperCasedAndWhole)
     EXPECT_EQ(LookUpEntry("Nonsense Type").writer, EntryWriter::None);
 }
 
-TEST(DispatchTable, PhpWriterFollowsTheTable)
-{
-    EXPECT_EQ(LookUpEntry("Download Files").php, PhpWriter::Plain);
-    EXPECT_EQ(LookUpEntry("Download Files With Password").php, PhpWriter::Plain);
-    EXPECT_EQ(LookUpEntry("Condition With Comment").php, PhpWriter::Paired);
-    EXPECT_EQ(LookUpEntry("Followup Files With Password").writer, EntryWriter::Text);
-    EXPECT_EQ(LookUpEntry("Followup Files With Password").php, PhpWriter::Paired);
-    EXPECT_EQ(LookUpEntry("Followup With Comment").writer, EntryWriter::Comments);
-    EXPECT_EQ(LookUpEntry("Followup With Comment").php, PhpWriter::Plain);
-    EXPECT_EQ(LookUpEntry("Followup With Dropdown").writer, EntryWriter::Dropdown);
-    EXPECT_EQ(LookUpEntry("Cancel Button").php, PhpWriter::Plain);
-    for (const char* t : {"Title Shade", "Blank Line", "Video", "Picture", "Setup"})
-        EXPECT_EQ(LookUpEntry(t).php, PhpWriter::None) << t;
-}
-
 TEST(DispatchTable, ConditionFieldIsSetByChoicesAndConditionsButNotTablesNorSurveyConditionChoices)
 {
     using tq::html::SetsConditionField;
@@ -159,9 +142,8 @@ TEST_P(BothModes, AnUnknownVideoSuffixIsToldAndWritesNothingWhileNoneIsSilent)
     SetVideo(s->build.values, "https://www.tarnquill.example/clip.mov");
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), "");
     ASSERT_EQ(port.shown.size(), 1u);
-    EXPECT_EQ(port.last().text, "https://www.tarnquill.example/clip.mov format is not supported");
-    EXPECT_EQ(port.last().title, "ERROR");
-    EXPECT_EQ(port.last().icon, tq::Icon::Critical);
+    EXPECT_TRUE(Said(port.last(), "https://www.tarnquill.example/clip.mov format is not supported", "ERROR",
+                     tq::Icon::Critical));
     EXPECT_EQ(s->build.buildError, 0);
 
     port.clear();

@@ -60,9 +60,7 @@ TEST(AddToFirstFreeRow, FullPagesRunOnToPage4ThenEntriesAreFull)
 
     EXPECT_FALSE(AddToFirstFreeRow(f.ctx, 1, f.index("Name")).has_value());
     ASSERT_EQ(f.port.messages().size(), 1u);
-    EXPECT_EQ(f.port.last().text, "Entries are full");
-    EXPECT_EQ(f.port.last().title, "full");
-    EXPECT_EQ(f.port.last().icon, Icon::Exclamation);
+    EXPECT_TRUE(Said(f.port.last(), "Entries are full", "full", Icon::Exclamation));
 }
 
 TEST(AddToFirstFreeRow, NothingSelectedIsSaid)
@@ -137,11 +135,11 @@ TEST(InsertAtRow, RefusalsChangeNothingAndSayWhy)
     const auto before = f.store.pages;
 
     InsertAtRow(f.ctx, 1, 2, f.index("Name"));
-    EXPECT_EQ(f.port.last().text,
-              "You cannot add a Input Type above a Followup\r\rInput Types can only be added below a Followup or "
-              "above a Condition Input type");
-    EXPECT_EQ(f.port.last().title, "INVALID");
-    EXPECT_EQ(f.port.last().icon, Icon::Exclamation);
+    EXPECT_TRUE(
+        Said(f.port.last(),
+             "You cannot add a Input Type above a Followup\r\rInput Types can only be added below a Followup or "
+             "above a Condition Input type",
+             "INVALID", Icon::Exclamation));
 
     f.port.clear();
     InsertAtRow(f.ctx, 1, 24, f.index("Download Files With Password"));
@@ -149,9 +147,9 @@ TEST(InsertAtRow, RefusalsChangeNothingAndSayWhy)
 
     f.store.state.DragSource = 100;
     InsertAtRow(f.ctx, 1, 5, f.index("Name"));
-    EXPECT_EQ(f.port.last().text,
-              "SETUP input type cannot be duplicated.\r\rOnly one instance is required to complete your FORM");
-    EXPECT_EQ(f.port.last().title, "CANNOT COPY SETUP");
+    EXPECT_TRUE(Said(f.port.last(),
+                     "SETUP input type cannot be duplicated.\r\rOnly one instance is required to complete your FORM",
+                     "CANNOT COPY SETUP"));
     EXPECT_EQ(f.store.state.DragSource, 0);
 
     for (int p = 0; p < 4; ++p)

@@ -198,10 +198,9 @@ TEST_F(Extraction, SemicolonPathsStopUnlessAnEntryPreview)
     Extract("Video", kSamples[9].text);
     EXPECT_EQ(s.build.buildError, 1);
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.last().text,
-              ";https://www.tarnquill.example/test/videos/birds.mp4\r\rCANNOT CONTAIN A SEMI-COLON (;)");
-    EXPECT_EQ(ui.last().title, "ERROR");
-    EXPECT_EQ(ui.last().icon, Icon::Exclamation);
+    EXPECT_TRUE(Said(ui.last(),
+                     ";https://www.tarnquill.example/test/videos/birds.mp4\r\rCANNOT CONTAIN A SEMI-COLON (;)", "ERROR",
+                     Icon::Exclamation));
 
     ui.clear();
     s.build.buildError = 0;
@@ -226,10 +225,9 @@ TEST_F(Extraction, BackslashInAPathStopsEvenInAPreview)
                        "[Picture Width=600] [Info: w] [Picture Height=60] [Info: h]");
     EXPECT_EQ(s.build.buildError, 1);
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.last().text,
-              "The path cannot contain a back slash (\\).\r\rPlease change the back slash to a forward slash (/)");
-    EXPECT_EQ(ui.last().title, "ERROR");
-    EXPECT_EQ(ui.last().icon, Icon::Critical);
+    EXPECT_TRUE(Said(
+        ui.last(), "The path cannot contain a back slash (\\).\r\rPlease change the back slash to a forward slash (/)",
+        "ERROR", Icon::Critical));
 }
 
 TEST_F(Extraction, CancelButtonLinkChecks)
@@ -238,12 +236,12 @@ TEST_F(Extraction, CancelButtonLinkChecks)
                              "[Choices=l] [Link To=";
     Extract("cancel button", head + "none] [Info: x]");
     EXPECT_EQ(s.build.buildError, 1);
-    EXPECT_EQ(ui.last().title, "CANCEL INPUT TYPE HAS AN ERROR");
-    EXPECT_EQ(ui.last().icon, Icon::Exclamation);
-    EXPECT_EQ(ui.last().text,
-              "INPUT TYPE -> CANCEL BUTTON\r FOR ->LINK TO\rCANNOT BE SET TO NONE\r YOU MUST HAVE WEB PAGE LINK.\r\r"
-              "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN HE CLICKS ON THE CANCEL BUTTON\r\r"
-              "Example: index.htm\r\rCLICK ON EDIT AND ADD A WEB LINK");
+    EXPECT_TRUE(
+        Said(ui.last(),
+             "INPUT TYPE -> CANCEL BUTTON\r FOR ->LINK TO\rCANNOT BE SET TO NONE\r YOU MUST HAVE WEB PAGE LINK.\r\r"
+             "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN HE CLICKS ON THE CANCEL BUTTON\r\r"
+             "Example: index.htm\r\rCLICK ON EDIT AND ADD A WEB LINK",
+             "CANCEL INPUT TYPE HAS AN ERROR", Icon::Exclamation));
 
     s.build.buildError = 0;
     Extract("CANCEL BUTTON", head + "index] [Info: x]");
@@ -265,9 +263,8 @@ TEST_F(Extraction, AnAbsentKeyStopsWithTheReadersMessage)
     Extract("NAME", "[Title=A] [Info: x] [Title Size=3] [Info: x]");
     EXPECT_EQ(s.build.buildError, 1);
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.last().text, "Cannot find left [ bracket in [ERROR MESSAGE\r\r[Title Size=3]");
-    EXPECT_EQ(ui.last().title, "error");
-    EXPECT_EQ(ui.last().icon, Icon::Critical);
+    EXPECT_TRUE(
+        Said(ui.last(), "Cannot find left [ bracket in [ERROR MESSAGE\r\r[Title Size=3]", "error", Icon::Critical));
 }
 
 TEST_F(Extraction, AWrongHelpItemIsStillRefused)

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Writes that fail half way, through the write seam: no space left, no
-// permission, the folder moved away while its file is written. The user's
-// previous files stay byte for byte, the program says what it says, and
-// every command comes back.
+// Writes that fail half way: the user's previous files stay byte for byte.
 #include "build/build_driver.h"
 #include "build/line_writer.h"
 #include "port/file_system.h"
+#include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "show/show_file.h"
@@ -85,17 +83,16 @@ void ExpectNoTempFiles(const std::string& folder)
         EXPECT_NE(e.path().extension(), ".tqtmp") << e.path();
 }
 
+std::string FaultName(Fault f)
+{
+    const char* names[] = {"NoSpace", "NoPermission", "FolderGone"};
+    return names[static_cast<int>(f)];
+}
+
 std::string ErrorText(Fault f)
 {
-    switch (f) {
-    case Fault::NoSpace:
-        return std::strerror(ENOSPC);
-    case Fault::NoPermission:
-        return std::strerror(EACCES);
-    case Fault::FolderGone:
-        return std::strerror(ENOENT);
-    }
-    return {};
+    const int codes[] = {ENOSPC, EACCES, ENOENT};
+    return std::strerror(codes[static_cast<int>(f)]);
 }
 
 class FailedWrite : public ::testing::TestWithParam<Fault>
@@ -193,38 +190,12 @@ TEST_P(FailedWrite, AShowSaveKeepsTheOldShowAndTellsTheFault)
         EXPECT_FALSE(tq::show::SaveShow(s, port));
     }
     ASSERT_EQ(port.messages().size(), 1u);
-    EXPECT_EQ(port.last().title, "ERROR");
-    EXPECT_EQ(port.last().text, ErrorText(GetParam()) + " when writing " + file);
+    EXPECT_TRUE(Said(port.last(), ErrorText(GetParam()) + " when writing " + file, "ERROR"));
     EXPECT_EQ(ReadFileBytes(plan.now(file)), kOldBytes);
     EXPECT_FALSE(fs::exists(dir.file("history.txt"))); // not added to the recent list
 }
 
 namespace {
-
-// A SetupEntry that builds into `folder`.
-std::string SetupText(const std::string& folder)
-{
-    return "[Drive Folder Path=" + folder +
-           "] [Info: folder]\r\n"
-           "[TQL Output File=formtql.htm] [Info: file]\r\n"
-           "[FROM=Club] [Info: from]\r\n"
-           "[Completed=thankyou.htm] [Info: page]\r\n"
-           "[GLOBAL ALIGN=NONE] [Info: align]\r\n"
-           "[GLOBAL TEXT COLOR=NONE] [Choices=NONE]\r\n"
-           "[Submit Name=Send] [Info: name]\r\n"
-           "[SUBMIT ALIGN=LEFT] [Choices=left]\r\n"
-           "[Submit Button Color=0] [Choices=colour]\r\n"
-           "[Background image path=;none] [Info: image]\r\n"
-           "[Email #1=webmaster@tarnquill.example] [Info: mail]\r\n"
-           "[Email #2=none] [Info: mail]\r\n"
-           "[Email #3=none] [Info: mail]\r\n"
-           "[Number Each Question=YES] [Info: numbers]\r\n"
-           "[Show Tool Tips=YES] [Info: tips]\r\n"
-           "[Include Frame With Form=NO] [Info: frame]\r\n"
-           "[Frame Border Color=52736] [Info: colour]\r\n"
-           "[Frame Color=16384] [Info: colour]\r\n"
-           "[Total Frames=1] [Info: frames]\r\n";
-}
 
 /// A FORM with a title and a line whose two output files exist from an
 /// earlier build; the questions about them are answered No (keep the
@@ -238,7 +209,7 @@ struct Built
     {
         s->DataFolder = dataFolder;
         s->store.state.ProjectMode = "FORM";
-        s->store.pages[0][0] = {"Setup", SetupText(web), "1", false, tq::model::Highlight::None};
+        s->store.pages[0][0] = {"Setup", tq::test::SetupEntryText(web), "1", false, tq::model::Highlight::None};
         s->store.pages[0][1] = {"Title",
                                 "[Title=Club news] [Info: t]\r\n[Title Size=3] [Info: s]\r\n[Align=LEFT] "
                                 "[Choices=l]\r\n[Italics=off] [Info: i]\r\n[Bold=off] [Info: b]\r\n[Text "
@@ -279,17 +250,7 @@ TEST_P(FailedWrite, ABuildKeepsTheOldOutputFilesAndStops)
 INSTANTIATE_TEST_SUITE_P(Faults,
                          FailedWrite,
                          ::testing::Values(Fault::NoSpace, Fault::NoPermission, Fault::FolderGone),
-                         [](const auto& info) {
-                             switch (info.param) {
-                             case Fault::NoSpace:
-                                 return std::string("NoSpace");
-                             case Fault::NoPermission:
-                                 return std::string("NoPermission");
-                             case Fault::FolderGone:
-                                 return std::string("FolderGone");
-                             }
-                             return std::string();
-                         });
+                         [](const auto& info) { return FaultName(info.param); });
 
 TEST(FailedWrite, AFaultInTheScriptKeepsTheOldScriptBesideTheNewPage)
 {
@@ -302,8 +263,8 @@ TEST(FailedWrite, AFaultInTheScriptKeepsTheOldScriptBesideTheNewPage)
     });
     tq::build::CreateFormOnly(*b.s, port);
     EXPECT_EQ(b.s->build.buildError, 1);
-    EXPECT_EQ(port.last().title, "UNRECOVERABLE ERROR. CONTACT SUPPORT");
-    EXPECT_EQ(port.last().text, std::string(std::strerror(ENOSPC)) + " when writing " + b.php());
+    EXPECT_TRUE(Said(port.last(), std::string(std::strerror(ENOSPC)) + " when writing " + b.php(),
+                     "UNRECOVERABLE ERROR. CONTACT SUPPORT"));
     EXPECT_EQ(ReadFileBytes(b.php()), "old script\r\n");
     EXPECT_NE(ReadFileBytes(b.html()), "old page\r\n");
     ExpectNoTempFiles(web.path());

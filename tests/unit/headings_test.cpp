@@ -11,11 +11,8 @@ namespace html = tq::html;
 
 TEST(FieldName, FiveLettersAndSlotWithTheInnerBlankKept)
 {
-    EXPECT_EQ(html::FieldName("NAME", 3), "name3");
-    EXPECT_EQ(html::FieldName("EMAIL", 5), "email5");
     EXPECT_EQ(html::FieldName("COMMENTS REQUIRED", 7), "comme7");
-    EXPECT_EQ(html::FieldName("QUESTION YESNO REQUIRED", 9), "quest9");
-    EXPECT_EQ(html::FieldName("CELL PHONE NUMBER", 11), "cell 11");
+    EXPECT_EQ(html::FieldName("NAME", 3), "name3");
     EXPECT_EQ(html::FieldName("User Name", 13), "user 13");
     EXPECT_EQ(html::PreviewFieldName("CELL PHONE NUMBER"), "cell phone number1");
 }
@@ -98,6 +95,7 @@ TEST(SplitTitle, MarkersInAnyCaseEmptyLinesAndNoTrailingLine)
     EXPECT_EQ(lines.at(1), "one");
     html::SplitTitle(f.s.build, ""); // an empty title leaves the lines as they stand
     EXPECT_EQ(lines.count(), 1);
+    EXPECT_THROW(html::SplitTitle(f.s.build, tq::test::Repeat("x\\n", 151) + "last"), tq::model::InternalError);
 }
 
 TEST(SplitTitle, BlankRunsBecomeNbspWithTheFormatsCut)
@@ -109,24 +107,6 @@ TEST(SplitTitle, BlankRunsBecomeNbspWithTheFormatsCut)
     EXPECT_EQ(lines.at(1), "&nbsp;  lead");
     EXPECT_EQ(lines.at(2), "abcde&nbsp;  ghij"); // the "f" goes with the cut
     EXPECT_EQ(lines.at(3), " short");
-}
-
-TEST(SplitTitle, MoreThan150LinesIsAnInternalError)
-{
-    HtmlFixture f;
-    std::string title;
-    for (int i = 0; i < 151; ++i)
-        title += "x\\n";
-    title += "last";
-    EXPECT_THROW(html::SplitTitle(f.s.build, title), tq::model::InternalError);
-}
-
-TEST(FormHeading, OneLineNotRequired)
-{
-    HtmlFixture f;
-    html::WriteFormHeading(f.s, "Your name", "no", "NAME");
-    EXPECT_EQ(f.Output(),
-              Lines({R"(<font color="000000" face="arial" size="3">)", R"(<p align="left">)", "Your name", "<br>"}));
 }
 
 TEST(FormHeading, TwoLinesRequiredWithStylesAndALeadingBlank)
@@ -151,21 +131,6 @@ TEST(FormHeading, ThreeLinesNumberedAndPasswordDownloadIsAlwaysRequired)
                                  "* 1a. &nbsp;A <br>", "B <br>", "C", "<br>"}));
 }
 
-TEST(SurveyHeading, FormAForANameWithTheStarAndTheShade)
-{
-    HtmlFixture f("survey");
-    auto& v = f.s.build.values;
-    v.Bold = "ON";
-    v.ShadeWidth = "F40100"; // the reader's copy of a width of 500
-    v.ShadeColorHex = "FF0000";
-    html::WriteSurveyHeading(f.s, "Your name", "YES", "NAME");
-    EXPECT_EQ(f.Output(),
-              Lines({R"(<font color="000000" face="arial" size="3">)", "<b>", "",
-                     R"(<p align="left"><font face="arial" size="3">)", "* Your name", "</b>", "</font> </p>",
-                     R"(<div align="left">)", R"(<table border="0" width="F40100" bgcolor="FF0000">)",
-                     R"(<tr><td width="F40100" align="center">)"}));
-}
-
 TEST(SurveyHeading, FormDWritesEveryLineButTheLastTwice)
 {
     HtmlFixture f("SURVEY");
@@ -180,63 +145,6 @@ TEST(SurveyHeading, FormDWritesEveryLineButTheLastTwice)
                      "</font> </p>", "Two </p>", R"(<p align="left">Two)", "</i>", "</font> </p>",
                      R"(<p align="left">Three)", "</i>", "</font> </p>", R"(<div align="left">)",
                      R"(<table border="0" width="80%" bgcolor="EEEEEE">)", R"(<tr><td width="80%" align="center">)"}));
-}
-
-TEST(SurveyHeading, FormDOneLineEmail)
-{
-    HtmlFixture f("SURVEY");
-    html::WriteSurveyHeading(f.s, "E-mail", "yes", "EMAIL");
-    EXPECT_EQ(f.Output(), Lines({R"(<font color="000000" face="arial" size="3">)", "",
-                                 R"(<p align="left"><font face="arial" size="3"></p>)", "",
-                                 R"(<p align="left"><font face="arial" size="3"><p align="left">* E-mail)",
-                                 "</font> </p>", R"(<div align="left">)", R"(<table border="0" width="" bgcolor="">)",
-                                 R"(<tr><td width="" align="center">)"}));
-}
-
-TEST(SurveyHeading, FormBForAFollowupDropdown)
-{
-    HtmlFixture f("SURVEY");
-    f.s.build.values.TextColorHex = "00FF00";
-    html::WriteSurveyHeading(f.s, "A\\nB", "no", "FOLLOWUP WITH DROPDOWN");
-    const std::string out = f.Output();
-    EXPECT_EQ(out.substr(0, out.find("<div")),
-              Lines({R"(<font color="00FF00" face="arial" size="3">)", "",
-                     R"(<font face="arial" size="3"><p align="left"color="00FF00">)", R"(<p align="left">)",
-                     R"(<font face="arial" size="3"><p align="left">A)", "</font> </p>", R"(<p align="left">)",
-                     R"(<font face="arial" size="3"><p align="left">B)", "</font> </p>", R"(<p align="left">)"}));
-}
-
-TEST(SurveyHeading, FormCForCheckboxes)
-{
-    HtmlFixture f("SURVEY");
-    html::WriteSurveyHeading(f.s, "A\\nB", "YES", "CHECKBOX VERTICAL");
-    const std::string out = f.Output();
-    EXPECT_EQ(out.substr(0, out.find("<div")),
-              Lines({R"(<font color="000000" face="arial" size="3">)", "",
-                     R"(<font face="arial" size="3"><p align="left">* A)", "</font> </p>",
-                     R"(<font face="arial" size="3"><p align="left">B)", "</font> </p>",
-                     R"(<p align="left"><font face="arial" size="3">)"}));
-}
-
-TEST(SurveyHeading, TitleTypesTakeFormAWithoutStarOrShade)
-{
-    HtmlFixture f("SURVEY");
-    f.s.build.values.ALIGN = "center";
-    f.s.build.values.TitleSize = "5";
-    html::WriteSurveyHeading(f.s, "Welcome\\nto us", "YES", "TITLE 2 DOUBLE LINE");
-    EXPECT_EQ(f.Output(),
-              Lines({R"(<font color="000000" face="arial" size="5">)", "",
-                     R"(<p align="center"><font face="arial" size="5">)", "Welcome<br>", "to us", "</font> </p>"}));
-}
-
-TEST(SurveyHeading, IntroductionLinesReplaceTheHeading)
-{
-    HtmlFixture f("SURVEY");
-    f.s.build.values.IntroLines.push("Hello");
-    f.s.build.values.IntroLines.push("World");
-    html::WriteSurveyHeading(f.s, "Hello\\nWorld", "no", "SURVEY INTRO");
-    EXPECT_EQ(f.Output(), Lines({R"(<font color="000000" face="arial" size="3">)", R"(<p align="left">)", "Hello",
-                                 "<br>World", "</font></p>", ""}));
 }
 
 TEST(ShadeTable, WritesNothingInForm)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The publishing instructions after a build: "\Instruct.txt" line by line,
-// the page's texts for FORM and SURVEY, FILE against FILES, the extra upload
-// paths, the setup reminder and the clipboard copy.
 #include "build/build_driver.h"
+#include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "shell/instructions.h"
@@ -18,26 +16,6 @@ using tq::test::TempDir;
 using tq::test::WriteFileBytes;
 
 namespace {
-
-std::string Group(const std::string& item, const std::string& help)
-{
-    return item + "\r\n" + help + "\r\n\r\n";
-}
-
-std::string SetupText(const std::string& folder, const std::string& image = ";x.gif")
-{
-    return Group("[Drive Folder Path=" + folder + "]", "[Info: folder]") +
-           Group("[TQL Output File=formtql.htm]", "[Info: file]") + Group("[FROM=My Web Page]", "[Info: from]") +
-           Group("[Completed=thankyou.htm]", "[Info: page]") + Group("[GLOBAL ALIGN=NONE]", "[Info: align]") +
-           Group("[GLOBAL TEXT COLOR=NONE]", "[Choices=NONE]") + Group("[Submit Name=Send it]", "[Info: name]") +
-           Group("[SUBMIT ALIGN=LEFT]", "[Choices=left]") + Group("[Submit Button Color=0]", "[Choices=c]") +
-           Group("[Background image path=" + image + "]", "[Info: image]") +
-           Group("[Email #1=me@site.example]", "[Info: mail]") + Group("[Email #2=none]", "[Info: mail]") +
-           Group("[Email #3=none]", "[Info: mail]") + Group("[Number Each Question=YES]", "[Info: n]") +
-           Group("[Show Tool Tips=YES]", "[Info: tips]") + Group("[Include Frame With Form=NO]", "[Info: f]") +
-           Group("[Frame Border Color=52736]", "[Info: c]") + Group("[Frame Color=16384]", "[Info: c]") +
-           Group("[Total Frames=1]", "[Info: t]");
-}
 
 /// A port that fills the final page the moment the driver brings it up, as
 /// the desktop program does.
@@ -68,7 +46,7 @@ struct Fixture
         port.s = s.get();
         s->DataFolder = data.path();
         s->store.state.ProjectMode = mode;
-        s->store.pages[0][0] = {"Setup", SetupText(web.path()), "1", true};
+        s->store.pages[0][0] = {"Setup", test::SetupEntryText(web.path(), {.image = ";x.gif"}), "1", true};
     }
     std::vector<std::string> lines() const
     {
@@ -133,7 +111,8 @@ TEST(Instructions, AFragmentSurveyTakesTheSingularAndThePasteSteps)
 TEST(Instructions, ExtraPathsAndTheDownloadNote)
 {
     Fixture f;
-    f.s->store.pages[0][0].AttributeText = SetupText(f.web.path(), "https://site.example/img/back.gif");
+    f.s->store.pages[0][0].AttributeText =
+        test::SetupEntryText(f.web.path(), {.image = "https://site.example/img/back.gif"});
     f.s->store.pages[0][1] = {
         "Download Files", "[Title=t]\r\n[Info: x]\r\n\r\n[Server Download=;https://site.example/files/]\r\n", "", true};
     f.s->store.pages[1][3] = {"Picture", "[Server Picture Path=https://site.example/pics\\]\r\n", "", true};
@@ -151,7 +130,7 @@ TEST(Instructions, ExtraPathsAndTheDownloadNote)
     EXPECT_EQ(lines[lines.size() - 2],
               "   A download page needs output_buffering set to Off in the PHP settings of your Web Server.");
     // a commented-out sample image is no upload
-    f.s->store.pages[0][0].AttributeText = SetupText(f.web.path());
+    f.s->store.pages[0][0].AttributeText = test::SetupEntryText(f.web.path(), {.image = ";x.gif"});
     EXPECT_EQ(ListExtraPaths(f.s->store).size(), 3u);
 }
 

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Large inputs: an attribute text of 10 MB, a choice list of 10,000 items, a
-// title of 1,000 lines. The program answers with its own messages and keeps
-// its bounds; nothing crashes. (How long they take is measured in
-// tests/bench, not here.)
 #include "build/build_driver.h"
 #include "model/attribute_text.h"
+#include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "store/project_file.h"
@@ -34,30 +31,6 @@ std::string ManyItems(size_t bytes, int& items)
         items += 2;
     }
     return text;
-}
-
-std::string SetupText(const std::string& folder)
-{
-    return "[Drive Folder Path=" + folder +
-           "] [Info: folder]\r\n"
-           "[TQL Output File=formtql.htm] [Info: file]\r\n"
-           "[FROM=Club] [Info: from]\r\n"
-           "[Completed=thankyou.htm] [Info: page]\r\n"
-           "[GLOBAL ALIGN=NONE] [Info: align]\r\n"
-           "[GLOBAL TEXT COLOR=NONE] [Choices=NONE]\r\n"
-           "[Submit Name=Send] [Info: name]\r\n"
-           "[SUBMIT ALIGN=LEFT] [Choices=left]\r\n"
-           "[Submit Button Color=0] [Choices=colour]\r\n"
-           "[Background image path=;none] [Info: image]\r\n"
-           "[Email #1=webmaster@tarnquill.example] [Info: mail]\r\n"
-           "[Email #2=none] [Info: mail]\r\n"
-           "[Email #3=none] [Info: mail]\r\n"
-           "[Number Each Question=YES] [Info: numbers]\r\n"
-           "[Show Tool Tips=YES] [Info: tips]\r\n"
-           "[Include Frame With Form=NO] [Info: frame]\r\n"
-           "[Frame Border Color=52736] [Info: colour]\r\n"
-           "[Frame Color=16384] [Info: colour]\r\n"
-           "[Total Frames=1] [Info: frames]\r\n";
 }
 
 /// The text of the first row of `type` in a sample project.
@@ -99,7 +72,7 @@ struct OneEntryBuild
     {
         s->DataFolder = data.path();
         s->store.state.ProjectMode = "FORM";
-        s->store.pages[0][0] = {"Setup", SetupText(web.path()), "1", false, tq::model::Highlight::None};
+        s->store.pages[0][0] = {"Setup", tq::test::SetupEntryText(web.path()), "1", false, tq::model::Highlight::None};
         s->store.pages[0][1] = {type, text, "2", false, tq::model::Highlight::None};
         tq::build::CreateFormOnly(*s, port);
     }
@@ -160,8 +133,7 @@ TEST(LargeInput, TenThousandChoicesPassTheListBoundAndAreToldAsAnInternalError)
                     WithValue(SampleRow("sample_form.fms", "Dropdown Required"), "[Default Dropdown Value=", choices));
     EXPECT_EQ(b.s->build.buildError, 1);
     ASSERT_FALSE(b.port.messages().empty());
-    EXPECT_EQ(b.port.last().title, "INTERNAL ERROR");
-    EXPECT_EQ(b.port.last().text, "internal error: list bound 100 passed");
+    EXPECT_TRUE(Said(b.port.last(), "internal error: list bound 100 passed", "INTERNAL ERROR"));
     EXPECT_FALSE(b.s->build.inProgress);
 }
 

@@ -128,9 +128,8 @@ TEST(SwitchMode, ARefusedClearIsAbortedButTheModeStaysChanged)
     EXPECT_EQ(f.store.state.AbortFlag, 1);
     EXPECT_EQ(f.store.state.ProjectMode, "SURVEY");
     EXPECT_EQ(CountFilledRows(f.store), 7);
-    EXPECT_EQ(f.port.last().text, "All entries must be cleared before you can switch to the SURVEY page");
-    EXPECT_EQ(f.port.last().title, "ABORTED");
-    EXPECT_EQ(f.port.last().icon, Icon::Information);
+    EXPECT_TRUE(Said(f.port.last(), "All entries must be cleared before you can switch to the SURVEY page", "ABORTED",
+                     Icon::Information));
     EXPECT_TRUE(log.calls.empty());
     EXPECT_FALSE(f.store.state.SwitchInProgress);
 

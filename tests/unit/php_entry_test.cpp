@@ -230,11 +230,11 @@ TEST(PhpEntry, FollowupFilesOutOfPlaceStopsTheBuild)
         EXPECT_EQ(p.state->buildError, 1);
         EXPECT_EQ(p.ch2(), "");
         ASSERT_EQ(p.ui.shown.size(), 1u);
-        EXPECT_EQ(p.ui.shown[0].title, "ERROR");
-        EXPECT_EQ(p.ui.shown[0].icon, Icon::Critical);
-        EXPECT_EQ(p.ui.shown[0].text,
-                  "A followup-D must follow a condition-D\r\rDelete the input type FOLLOWUP FILES WITH PASSWORD\r"
-                  " and the input type conditon-D\r\rand rebuild the form");
+        EXPECT_TRUE(
+            Said(p.ui.shown[0],
+                 "A followup-D must follow a condition-D\r\rDelete the input type FOLLOWUP FILES WITH PASSWORD\r"
+                 " and the input type conditon-D\r\rand rebuild the form",
+                 "ERROR", Icon::Critical));
     }
     // the download form of the box needs a key that is not a Followup's
     Pass p;

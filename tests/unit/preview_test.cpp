@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Previews from the edit page and the edit window, and the shade-width batch
-// command: files land in the DataFolder only, the row's text never changes.
 #include "html/quick_preview.h"
+#include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "shell/preview.h"
@@ -21,21 +20,6 @@ namespace {
 std::string Group(const std::string& item, const std::string& help)
 {
     return item + "\r\n" + help + "\r\n\r\n";
-}
-
-std::string SetupText(const std::string& folder)
-{
-    return Group("[Drive Folder Path=" + folder + "]", "[Info: folder]") +
-           Group("[TQL Output File=formtql.htm]", "[Info: file]") + Group("[FROM=My Web Page]", "[Info: from]") +
-           Group("[Completed=thankyou.htm]", "[Info: page]") + Group("[GLOBAL ALIGN=NONE]", "[Info: align]") +
-           Group("[GLOBAL TEXT COLOR=NONE]", "[Choices=NONE]") + Group("[Submit Name=Send it]", "[Info: name]") +
-           Group("[SUBMIT ALIGN=LEFT]", "[Choices=left]") + Group("[Submit Button Color=0]", "[Choices=c]") +
-           Group("[Background image path=;x.gif]", "[Info: image]") +
-           Group("[Email #1=me@site.example]", "[Info: mail]") + Group("[Email #2=none]", "[Info: mail]") +
-           Group("[Email #3=none]", "[Info: mail]") + Group("[Number Each Question=YES]", "[Info: n]") +
-           Group("[Show Tool Tips=YES]", "[Info: tips]") + Group("[Include Frame With Form=NO]", "[Info: f]") +
-           Group("[Frame Border Color=52736]", "[Info: c]") + Group("[Frame Color=16384]", "[Info: c]") +
-           Group("[Total Frames=1]", "[Info: t]");
 }
 
 const std::string kCondition =
@@ -60,7 +44,8 @@ struct Fixture
     Fixture()
     {
         s->DataFolder = data.path();
-        s->store.pages[0][0] = {"Setup", SetupText(web.path()), "", true};
+        s->store.pages[0][0] = {"Setup", test::SetupEntryText(web.path(), {.submit = "Send it", .image = ";x.gif"}), "",
+                                true};
         s->store.pages[0][1] = {"Condition With Comment", kCondition, "", true};
         s->store.pages[0][2] = {"Followup With Comment", kFollowup, "", true};
     }
@@ -129,10 +114,8 @@ TEST(ShadeWidthBatch, AsksUntilTheValueIsGoodAndRewritesEveryShadeWidth)
     EXPECT_EQ(SetShadeWidthAll(*f.s, f.port), 1);
     const auto msgs = f.port.messages();
     ASSERT_EQ(msgs.size(), 2u);
-    EXPECT_EQ(msgs[0].text, "Value must be from 1 to 100");
-    EXPECT_EQ(msgs[0].title, "ERROR");
-    EXPECT_EQ(f.port.shown[0].text, "Enter from 1 to 100\r\rValue is in %");
-    EXPECT_EQ(f.port.shown[0].title, "SHADE WIDTH");
+    EXPECT_TRUE(Said(msgs[0], "Value must be from 1 to 100", "ERROR"));
+    EXPECT_TRUE(Said(f.port.shown[0], "Enter from 1 to 100\r\rValue is in %", "SHADE WIDTH"));
     const std::string& text = f.s->store.pages[1][0].AttributeText;
     EXPECT_NE(text.find("[Shade Width=75]\r\n"), std::string::npos) << text;
     EXPECT_NE(text.find("[Title Shade Width=10%]"), std::string::npos);

@@ -184,8 +184,7 @@ TEST_F(ProjectFlow, SaveAsksBeforeReplacingAndKeepsTheFileOnNo)
     port.file(path);
     port.answer(Answer::No);
     EXPECT_FALSE(store::SaveProject(s, port, "fms"));
-    EXPECT_EQ(port.last().title, "FILE EXIST");
-    EXPECT_EQ(port.last().text, "File " + path + "  already exists. Do you want to replace it?");
+    EXPECT_TRUE(Said(port.last(), "File " + path + "  already exists. Do you want to replace it?", "FILE EXIST"));
     EXPECT_EQ(test::ReadFileBytes(path), before);
     EXPECT_EQ(s.run.busyMark, store::kIdle);
 

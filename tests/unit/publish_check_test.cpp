@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The syntax check of a built script: php's verdict read back to the Entry
-// whose field name PHP cannot take.
 #include "scripted_port.h"
 #include "shell/publish_check.h"
 

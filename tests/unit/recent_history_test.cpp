@@ -93,9 +93,7 @@ TEST_F(Recent, AMissingFileIsReportedAndTakenOutOfTheShowListOnly)
                "RECENT, FORM and EDIT HISTORY";
     auto shown = port.messages();
     ASSERT_EQ(shown.size(), 2u); // once for each pass
-    EXPECT_EQ(shown[0].text, text);
-    EXPECT_EQ(shown[0].title, "File not found");
-    EXPECT_EQ(shown[0].icon, Icon::Exclamation);
+    EXPECT_TRUE(Said(shown[0], text, "File not found", Icon::Exclamation));
     EXPECT_EQ(test::ReadFileBytes(dir.file("history.txt")), dir.file("show.shw") + "\r\n");
     EXPECT_EQ(test::ReadFileBytes(Forms()), "x " + dead + "\r\n" + live + "\r\n"); // keeps its dead line
     EXPECT_FALSE(s.run.formMenu[0].visible);                                       // the refresh ended there

@@ -56,9 +56,7 @@ TEST(ReorderEntries, SortsAllPagesByNumberAndCompactsFromPage1)
     for (int p = 1; p <= 4; ++p)
         for (int row = 0; row < 25; ++row)
             EXPECT_EQ(r.at(p, row).ReferenceNumber, std::to_string(25 * (p - 1) + row + 1));
-    EXPECT_EQ(r.port.last().text, "The Order has been updated");
-    EXPECT_EQ(r.port.last().title, "ORDER UPDATED");
-    EXPECT_EQ(r.port.last().icon, Icon::Information);
+    EXPECT_TRUE(Said(r.port.last(), "The Order has been updated", "ORDER UPDATED", Icon::Information));
     EXPECT_TRUE(r.at(1, 3).EditEnabled);
 }
 
@@ -98,9 +96,8 @@ TEST(ReorderEntries, AZeroOrBlankNumberOnAnyRowStopsWithNoRowMoved)
         EXPECT_EQ(r.store.state.buildError, 1);
         EXPECT_EQ(r.names(1, 2), (std::vector<std::string>{"Name", "Email"}));
         ASSERT_EQ(r.port.messages().size(), 1u);
-        EXPECT_EQ(r.port.last().text, "Order number must be greater then 0 and contain a number from 1 to 100");
-        EXPECT_EQ(r.port.last().title, "ORDER ERROR");
-        EXPECT_EQ(r.port.last().icon, Icon::Critical);
+        EXPECT_TRUE(Said(r.port.last(), "Order number must be greater then 0 and contain a number from 1 to 100",
+                         "ORDER ERROR", Icon::Critical));
     }
 }
 
@@ -114,10 +111,11 @@ TEST(ReorderEntries, MovesOnLaterPagesAloneCountAsUnchanged)
     r.store.state.ProjectMode = "survey";
     ASSERT_TRUE(ReorderEntries(r.store, r.port));
     EXPECT_EQ(r.names(2, 2), (std::vector<std::string>{"Early", "Late"})); // they moved all the same
-    EXPECT_EQ(r.port.last().text,
-              "The Survey is already in sequential order and does not need to be sorted.\r\rTo change the Order, "
-              "change the numbers below the Order button.");
-    EXPECT_EQ(r.port.last().title, "NO CHANGES NEEDED");
+    EXPECT_TRUE(
+        Said(r.port.last(),
+             "The Survey is already in sequential order and does not need to be sorted.\r\rTo change the Order, "
+             "change the numbers below the Order button.",
+             "NO CHANGES NEEDED"));
 }
 
 TEST(ReorderEntries, ABuildOrASwitchIsSilentButStillCompacts)
@@ -139,8 +137,8 @@ TEST(ReorderEntries, TheOrderCommandAsksFirst)
     ASSERT_TRUE(ReorderEntries(r.store, r.port));
     EXPECT_FALSE(r.store.state.OrderPrompt);
     EXPECT_EQ(r.port.shown.size(), 1u);
-    EXPECT_EQ(r.port.last().text, "Do you want to reorder your entries based on the reference numbers below?");
-    EXPECT_EQ(r.port.last().title, "REORDER ENTRIES");
+    EXPECT_TRUE(Said(r.port.last(), "Do you want to reorder your entries based on the reference numbers below?",
+                     "REORDER ENTRIES"));
     EXPECT_EQ(r.at(1, 5).InputTypeName, "Name");
 
     r.store.state.OrderPrompt = true;

@@ -1,8 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The shipped sample projects and the end-to-end fixtures are made here, from
-// the catalogue's templates through the program's own editing, with the few
-// values a build needs filled in. Each test compares the committed file with
-// what the program makes now; TQ_WRITE_PROJECTS=1 writes them instead.
 #include "model/catalogue.h"
 #include "model/editing.h"
 #include "model/new_project.h"

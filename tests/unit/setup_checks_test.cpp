@@ -101,16 +101,16 @@ TEST_F(SetupRead, SampleFromHoldsTheBuildOnTheEditPage)
     EXPECT_EQ(ui.editCalls[0].page, 1);
     EXPECT_EQ(ui.editCalls[0].row, 0);
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.last().title, "INVALID ENTRIES");
-    EXPECT_EQ(ui.last().icon, Icon::Exclamation);
-    EXPECT_EQ(ui.last().text,
-              "THERE ARE ERRORS THAT NEED TO BE CORRECTED BEFORE YOU CAN BUILD YOUR FORM IN SETUP\r\r"
-              "A SEMI-COLON(;) WAS PLACED IN THE FIRST COLUMN AS A FLAG FOR YOU TO MAKE CHANGES\r\r"
-              "YOU CAN CLICK ON HELP IN THE EDIT WINDOW TO HELP YOU WITH THE DESCRIPTION OF EACH ENTRY\r\r"
-              "THE FOLLOWING NEED CORRECTIONS\r\rFROM\r;My Web Page\r\rCompleted\r;thankyou.htm\r\r"
-              "EMAIL #1\r;webmaster@tarnquill.example\r\r"
-              "CLICK OK AND WE WILL TAKE YOU TO THE EDIT SCREEN. THEN REMOVE THE SEMI-COLON AND CORRECT THE ERRORS "
-              "ON ALL ENTRIES THAT ARE HIGHLIGHTED IN RED\r\r");
+    EXPECT_TRUE(
+        Said(ui.last(),
+             "THERE ARE ERRORS THAT NEED TO BE CORRECTED BEFORE YOU CAN BUILD YOUR FORM IN SETUP\r\r"
+             "A SEMI-COLON(;) WAS PLACED IN THE FIRST COLUMN AS A FLAG FOR YOU TO MAKE CHANGES\r\r"
+             "YOU CAN CLICK ON HELP IN THE EDIT WINDOW TO HELP YOU WITH THE DESCRIPTION OF EACH ENTRY\r\r"
+             "THE FOLLOWING NEED CORRECTIONS\r\rFROM\r;My Web Page\r\rCompleted\r;thankyou.htm\r\r"
+             "EMAIL #1\r;webmaster@tarnquill.example\r\r"
+             "CLICK OK AND WE WILL TAKE YOU TO THE EDIT SCREEN. THEN REMOVE THE SEMI-COLON AND CORRECT THE ERRORS "
+             "ON ALL ENTRIES THAT ARE HIGHLIGHTED IN RED\r\r",
+             "INVALID ENTRIES", Icon::Exclamation));
 }
 
 TEST_F(SetupRead, SampleCompletedStopsTheBuild)
@@ -118,11 +118,12 @@ TEST_F(SetupRead, SampleCompletedStopsTheBuild)
     Read(SetupText(true, "Club", ";thankyou.htm"), "SURVEY");
     EXPECT_EQ(s.build.buildError, 1);
     EXPECT_FALSE(s.build.setupHold);
-    EXPECT_EQ(ui.last().title, "NAME INVALID");
-    EXPECT_EQ(ui.last().text,
-              "INPUT TYPE ---> SETUP ---> COMPLETED <---\r\rCANNOT HAVE A SEMI COLON. (;thankyou.htm)\r\r"
-              "CLICK ON THE EDIT BUTTON NEXT TO THE SETUP INPUT TYPE AND REPLACE IT WITH YOUR OWN THANK YOU PAGE\r\r"
-              "NOTE: THIS IS THE FILE THAT COMES UP ON THE USER'S WEB PAGE AFTER THE USER COMPLETES THE SURVEY");
+    EXPECT_TRUE(
+        Said(ui.last(),
+             "INPUT TYPE ---> SETUP ---> COMPLETED <---\r\rCANNOT HAVE A SEMI COLON. (;thankyou.htm)\r\r"
+             "CLICK ON THE EDIT BUTTON NEXT TO THE SETUP INPUT TYPE AND REPLACE IT WITH YOUR OWN THANK YOU PAGE\r\r"
+             "NOTE: THIS IS THE FILE THAT COMES UP ON THE USER'S WEB PAGE AFTER THE USER COMPLETES THE SURVEY",
+             "NAME INVALID"));
 }
 
 TEST_F(SetupRead, AnEntryPreviewSkipsTheSampleChecks)

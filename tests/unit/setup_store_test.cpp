@@ -105,10 +105,11 @@ TEST_F(SetupFlow, ImportOfAShortFileFillsWhatItHas)
 
     std::filesystem::remove(SetupPath());
     store::ImportSetup(setup, port, dir.path(), false);
-    EXPECT_EQ(port.last().title, "SETUP NOT SAVED");
-    EXPECT_EQ(port.last().text,
-              "No Setup file has been created. Enter your Setup Information and then go to File and Save Setup. If "
-              "you need help in setting up your Setup File, go to Help");
+    EXPECT_TRUE(
+        Said(port.last(),
+             "No Setup file has been created. Enter your Setup Information and then go to File and Save Setup. If "
+             "you need help in setting up your Setup File, go to Help",
+             "SETUP NOT SAVED"));
 }
 
 TEST_F(SetupFlow, ExportSaysDoneEvenAfterNo)
@@ -122,8 +123,7 @@ TEST_F(SetupFlow, ExportSaysDoneEvenAfterNo)
               "This option will save the current edit page as setup.imp and make them your defaults when you run "
               "Tarnquill\r\rDo you want to continue?");
     EXPECT_EQ(port.shown[1].text, "File " + SetupPath() + "  already exists. Do you want to replace it?");
-    EXPECT_EQ(port.shown[2].title, "ABORTED");
-    EXPECT_EQ(port.shown[2].text, "Setup Page was not saved");
+    EXPECT_TRUE(Said(port.shown[2], "Setup Page was not saved", "ABORTED"));
     EXPECT_EQ(port.shown[3].title, "DONE");
     EXPECT_EQ(test::ReadFileBytes(SetupPath()), "old");
     EXPECT_EQ(setup.resultFlag, 1);
@@ -138,9 +138,10 @@ TEST_F(SetupFlow, ImportThenSaveAsDefaults)
     port.answer(Answer::Yes); // FILE EXIST
     store::SetupPageOnlyOpenCommand(setup, port, dir.path());
     EXPECT_EQ(setup.rows[12].MenuName, "Site 12");
-    EXPECT_EQ(port.last().title, "DONE");
-    EXPECT_EQ(port.last().text, "The new imported setup file was successfully saved\r\rThe settings on this page "
-                                "will be your new defaults every time you run Tarnquill");
+    EXPECT_TRUE(Said(port.last(),
+                     "The new imported setup file was successfully saved\r\rThe settings on this page "
+                     "will be your new defaults every time you run Tarnquill",
+                     "DONE"));
 
     port.clear();
     port.answer(Answer::Yes);
@@ -153,10 +154,11 @@ TEST_F(SetupFlow, BackupAndRestore)
 {
     port.answer(Answer::Yes);
     store::RestoreBackup(port, dir.path());
-    EXPECT_EQ(port.last().title, "NO BACKUP FOUND");
-    EXPECT_EQ(port.last().text, dir.file("setupbackup.imp") +
-                                    "\rDOES NOT EXIST\r\rYOU MUST FIRST CREATE A BACKUP BEFORE YOU CAN RESTORE FROM A "
-                                    "BACKUP");
+    EXPECT_TRUE(Said(port.last(),
+                     dir.file("setupbackup.imp") +
+                         "\rDOES NOT EXIST\r\rYOU MUST FIRST CREATE A BACKUP BEFORE YOU CAN RESTORE FROM A "
+                         "BACKUP",
+                     "NO BACKUP FOUND"));
 
     test::WriteFileBytes(SetupPath(), "first");
     store::BackupSetupPage(port, dir.path());
@@ -185,9 +187,10 @@ TEST_F(SetupFlow, SortByNameUsesTheWholeTextAndCountsChangedNames)
     EXPECT_EQ(setup.rows[0].EmailAddress, "g;"); // a ";" of its own splits the field
     EXPECT_EQ(setup.rows[1].MenuName, "Alpha");
     EXPECT_EQ(setup.rows[2].MenuName, "beta");
-    EXPECT_EQ(port.last().title, "ORDER UPDATED");
-    EXPECT_EQ(port.last().text, "The Order has been updated.\rTotal entries sorted were 2\rBe sure to select File "
-                                "and Save as Default to keep these changes");
+    EXPECT_TRUE(Said(port.last(),
+                     "The Order has been updated.\rTotal entries sorted were 2\rBe sure to select File "
+                     "and Save as Default to keep these changes",
+                     "ORDER UPDATED"));
     EXPECT_EQ(setup.rows[14].WebServerPath, "orphan"); // unused rows come behind, sorted too
 
     port.answer(Answer::Yes);
@@ -197,16 +200,15 @@ TEST_F(SetupFlow, SortByNameUsesTheWholeTextAndCountsChangedNames)
 
     port.answer(Answer::Yes);
     store::SortSetupByName(setup, port, true);
-    EXPECT_EQ(port.last().title, "NO CHANGES NEEDED");
-    EXPECT_EQ(port.last().text, "The list does not require any changes.");
+    EXPECT_TRUE(Said(port.last(), "The list does not require any changes.", "NO CHANGES NEEDED"));
 }
 
 TEST_F(SetupFlow, SortByNumber)
 {
     port.answer(Answer::Yes);
     store::SortSetupByNumber(setup, port, "FORM");
-    EXPECT_EQ(port.last().title, "ORDER ERROR");
-    EXPECT_EQ(port.last().text, "Order number must be greater then 0 and contain a number from 1 to 15");
+    EXPECT_TRUE(
+        Said(port.last(), "Order number must be greater then 0 and contain a number from 1 to 15", "ORDER ERROR"));
 
     for (int n = 0; n < store::kSetupRows; ++n)
         setup.rows[static_cast<size_t>(n)].OrderNumber = std::to_string(n + 1);
@@ -240,8 +242,8 @@ TEST_F(SetupFlow, FindButtonsAndClipboard)
     EXPECT_EQ(port.clipboard, "/srv/www");
     EXPECT_EQ(port.last().text, "/srv/www\r\rhas been placed on the clipbaord");
     store::ShowSetupHelp(port, "DefaultPathBrowser");
-    EXPECT_EQ(port.last().title, "HELP");
-    EXPECT_EQ(port.last().text, "Enter your favorite Web Browser full path, such as Internet Explorer or Firefox");
+    EXPECT_TRUE(
+        Said(port.last(), "Enter your favorite Web Browser full path, such as Internet Explorer or Firefox", "HELP"));
 }
 
 TEST_F(SetupFlow, DataFolderIsAskedForUntilOneIsGiven)
@@ -266,8 +268,7 @@ TEST_F(SetupFlow, DataFolderIsAskedForUntilOneIsGiven)
     port.input(dir.file("blocker/sub"));
     port.input(std::nullopt);
     EXPECT_FALSE(store::LoadDataFolder(port, fixed));
-    EXPECT_EQ(port.shown[1].title, "CREATION FAILURE");
-    EXPECT_EQ(port.shown[1].text, "Unable to create the folder path. Please try again");
+    EXPECT_TRUE(Said(port.shown[1], "Unable to create the folder path. Please try again", "CREATION FAILURE"));
 }
 
 TEST_F(SetupFlow, AGoneDataFolderIsChangedBeforeTheStart)
@@ -285,8 +286,9 @@ TEST_F(SetupFlow, AGoneDataFolderIsChangedBeforeTheStart)
               "This is the folder path where Tarnquill stores your files\r\rYour current path is \r" +
                   dir.file("gone") + "\r\rDo you want to change it?");
     EXPECT_EQ(port.shown[1].text, "No changes will be made to your path");
-    EXPECT_EQ(port.last().title, "RESTART TARNQUILL");
-    EXPECT_EQ(port.last().text, "Your new Path is " + dir.file("new") +
-                                    "\rThe Path has been saved.\rYou must restart Tarnquill for the changes to be in "
-                                    "effect");
+    EXPECT_TRUE(Said(port.last(),
+                     "Your new Path is " + dir.file("new") +
+                         "\rThe Path has been saved.\rYou must restart Tarnquill for the changes to be in "
+                         "effect",
+                     "RESTART TARNQUILL"));
 }

@@ -132,8 +132,7 @@ TEST(ShowFile, SaveProposesTheNameInTheFolderAndAppendsHistoryEachTime)
     port.file(name);
     port.answer(Answer::Yes);
     ASSERT_TRUE(SaveShow(session, port));
-    EXPECT_EQ(port.last().title, "FILE EXIST");
-    EXPECT_EQ(port.last().text, "File " + name + "  already exists. Do you want to replace it?");
+    EXPECT_TRUE(Said(port.last(), "File " + name + "  already exists. Do you want to replace it?", "FILE EXIST"));
     EXPECT_EQ(ReadFileBytes(dir.file("history.txt")), name + "\r\n" + name + "\r\n");
 
     // No keeps the file; Cancel writes nothing
@@ -194,8 +193,7 @@ TEST(ShowFile, OpenCancelledSaysAbortedAndAMissingFileSaysNothing)
     ScriptedPort port;
     port.file(std::nullopt);
     EXPECT_FALSE(OpenShow(session, "", port));
-    EXPECT_EQ(port.last().text, "ABORTED...");
-    EXPECT_EQ(port.last().title, "ABORTED");
+    EXPECT_TRUE(Said(port.last(), "ABORTED...", "ABORTED"));
 
     port.clear();
     EXPECT_FALSE(OpenShow(session, "/nonexistent/dir/x.shw", port));
@@ -232,8 +230,7 @@ TEST(ShowValidate, EachCheckHasItsMessageAndTheFirstFailureWins)
         ValidateShow(s, failed, port);
         EXPECT_TRUE(failed) << c.text;
         ASSERT_EQ(port.shown.size(), 1u) << c.text;
-        EXPECT_EQ(port.last().text, c.text);
-        EXPECT_EQ(port.last().title, "ERROR");
+        EXPECT_TRUE(Said(port.last(), c.text, "ERROR"));
     }
 
     ShowSettings s;
@@ -376,8 +373,7 @@ TEST_F(ShowBuild, ShowFromTheInstalledTemplateWithDoneOutputLineAndHistory)
     port.file(templatePath);
     ASSERT_TRUE(BuildShow(session, TQ_DATA_DIR, port));
     ASSERT_EQ(port.messages().size(), 1u);
-    EXPECT_EQ(port.last().title, "DONE");
-    EXPECT_EQ(port.last().text, ShowDoneMessage(session.photoShow.settings, dir.path()));
+    EXPECT_TRUE(Said(port.last(), ShowDoneMessage(session.photoShow.settings, dir.path()), "DONE"));
     EXPECT_EQ(port.last().text.substr(0, 68), "1. FTP all of your images to your web server to https://club.example");
     EXPECT_TRUE(session.photoShow.outputEnabled);
     EXPECT_EQ(session.photoShow.OutputLine, "https://club.example/photos/photoshow.php");
@@ -413,12 +409,6 @@ TEST_F(ShowBuild, ShowFromTheInstalledTemplateWithDoneOutputLineAndHistory)
     EXPECT_EQ(out, expected);
     for (size_t m = 0; m < marks.size(); ++m)
         EXPECT_EQ(hits[m], 1) << "the template carries each mark on one line: " << marks[m];
-    for (const char* want :
-         {"\r\n$bgcolor=\"#123456\";\r\n", "\r\n$useFading =false;\r\n", "\r\n$imgsperline=10;\r\n",
-          "\r\n$imgspercolumn=3;\r\n", "\r\n  $allowZip=false;\r\n", "\r\n$browsertitle=\"Club photos\";\r\n",
-          "\r\n$fadeMode=3;\r\n", "\r\n$fadeSteps =6;\r\n", "\r\n$fadeTime  =100;\r\n",
-          "\r\n<b>BACK TO THE CLUB</b>\r\n", "\r\n             <i><a target=\\\"_blank\\\"href=\\\"home\\\">\r\n"})
-        EXPECT_NE(out.find(want), std::string::npos) << want;
     EXPECT_EQ(out.find("tarnquill.example"), std::string::npos);
 }
 
@@ -434,8 +424,7 @@ TEST_F(ShowBuild, StopsOnAFailedCheckOnCancelAndOnAnUnreadableTemplate)
     session.photoShow.settings.FadeSteps = "2";
     port.file(std::nullopt);
     EXPECT_FALSE(BuildShow(session, TQ_DATA_DIR, port));
-    EXPECT_EQ(port.last().text, "ABORTED...");
-    EXPECT_EQ(port.last().title, "ABORTED");
+    EXPECT_TRUE(Said(port.last(), "ABORTED...", "ABORTED"));
     EXPECT_TRUE(session.photoShow.outputEnabled); // enabled before the template is asked for
 
     port.clear();
@@ -446,8 +435,7 @@ TEST_F(ShowBuild, StopsOnAFailedCheckOnCancelAndOnAnUnreadableTemplate)
     const std::string gone = dir.file("nowhere/photodata.php");
     port.file(gone);
     EXPECT_FALSE(BuildShow(session, TQ_DATA_DIR, port));
-    EXPECT_EQ(port.last().text, "No such file or directory when reading " + gone);
-    EXPECT_EQ(port.last().title, "ERROR");
+    EXPECT_TRUE(Said(port.last(), "No such file or directory when reading " + gone, "ERROR"));
     EXPECT_FALSE(std::filesystem::exists(dir.file("photoshow.php")));
     EXPECT_FALSE(std::filesystem::exists(data.file("history.txt")));
 }

