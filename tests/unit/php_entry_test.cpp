@@ -70,17 +70,6 @@ TEST(PhpEntry, CheckEntryTypesRequiredAndNot)
     }
 }
 
-TEST(PhpEntry, BlankInsideTheKeyIsWrittenAsItStands)
-{
-    Pass p;
-    EXPECT_EQ(p.entry("CELL PHONE NUMBER", "cell 3", "yes", "Phone?"),
-              "$cell 3 = check_entry($_POST[\"cell 3\"],\"Phone?\");\r\n");
-    p.v().USERNAME = "Ann";
-    EXPECT_EQ(p.entry("USER NAME", "user 5", "yes", "Wrong", "Empty"),
-              "$user 5 = check_entry($_POST[\"user 5\"],\"Empty\");\r\n"
-              "$user 5 = validate_userpass($_POST[\"user 5\"],\"Ann\",\"Wrong\");\r\n\r\n");
-}
-
 TEST(PhpEntry, EmailUsesBothMessagesAndKeepsTheCondition)
 {
     Pass p;
@@ -151,27 +140,8 @@ TEST(PhpEntry, TypesWithoutChecksWriteNothing)
     EXPECT_EQ(p.state->phpQuestionNumber, 1);
 }
 
-TEST(PhpEntry, NumberingOfMessages)
+TEST(PhpEntry, WithoutNumberingTheMessagesStayAsTheyAre)
 {
-    Pass p;
-    p.state->setupValues.NumberEachQuestion = "Yes";
-    EXPECT_EQ(p.entry("NAME", "name3", "yes", "Name?"),
-              "$name3 = check_entry($_POST[\"name3\"],\"1. Name? for question 1\");\r\n");
-    EXPECT_EQ(p.entry("CONDITION WITH COMMENT", "condi5", "yes", "Yes?"),
-              "$condi5 = validate_yesno($_POST[\"condi5\"], \" 2a. Yes? for question 2a\");\r\n");
-    EXPECT_EQ(
-        p.entry("FOLLOWUP WITH COMMENT", "follo7", "no", "Why?"),
-        "$follo7 = $_POST[\"follo7\"];\r\nvalidate_radio($condi5,$follo7,\" 2b. Why? for question 2b\");\r\n\r\n");
-    EXPECT_EQ(p.entry("EMAIL", "email9", "yes", "Bad", "Empty"),
-              "$email9 = check_entry($_POST[\"email9\"],\"3. Empty for question 3\");\r\n"
-              "$email = validate_email($_POST[\"email9\"], \"3. Bad for question 3\");\r\n");
-    // counting goes on for fields that write only the plain line
-    p.entry("COMMENTS NOT REQUIRED", "comme11");
-    p.state->phpQuestionNumber = 9;
-    EXPECT_EQ(p.entry("DROPDOWN REQUIRED", "dropd13", "yes", "D"),
-              "$dropd13 = $_POST[\"dropd13\"];\r\nvalidate_radio_dropdown_notselected($dropd13,\"10. D for question "
-              "10\");\r\n\r\n");
-
     Pass off;
     off.state->setupValues.NumberEachQuestion = "NO";
     EXPECT_EQ(off.entry("NAME", "name3", "yes", "Name?"), "$name3 = check_entry($_POST[\"name3\"],\"Name?\");\r\n");
