@@ -159,52 +159,39 @@ TEST(BuildDriver, ExistingFilesAreReplacedAfterNoToTheFolderAndYesToTheDuplicate
     EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
 }
 
-TEST(BuildDriver, NoToReplacingSaysChangeFileAndStops)
+TEST(BuildDriver, OtherAnswersKeepTheOldFiles)
 {
-    Project p;
-    WriteFileBytes(p.html(), "old page");
-    WriteFileBytes(p.php(), "old script");
-    ScriptedPort port;
-    port.answer(Answer::No);
-    port.answer(Answer::No);
-    BuildOutput(*p.s, port, 1);
-    EXPECT_EQ(p.s->build.buildError, 1);
-    ASSERT_EQ(port.shown.size(), 3u);
-    EXPECT_TRUE(Said(port.last(), "Change " + p.php() + " in setup and try again", "CHANGE FILE", Icon::Exclamation));
-    EXPECT_EQ(ReadFileBytes(p.html()), "old page");
-    EXPECT_EQ(ReadFileBytes(p.php()), "old script");
-    EXPECT_TRUE(port.editCalls.empty());
-}
-
-TEST(BuildDriver, YesToChangingTheFolderOpensTheFolderLine)
-{
-    Project p;
-    WriteFileBytes(p.html(), "old page");
-    WriteFileBytes(p.php(), "old script");
-    ScriptedPort port;
-    port.answer(Answer::Yes);
-    BuildOutput(*p.s, port, 1);
-    EXPECT_EQ(p.s->build.buildError, 1);
-    EXPECT_EQ(p.s->build.folderJump, 0);
-    EXPECT_TRUE(port.messages().empty());
-    ASSERT_EQ(port.editCalls.size(), 1u);
-    EXPECT_EQ(port.editCalls[0].key, "DRIVE FOLDER PATH");
-    EXPECT_EQ(ReadFileBytes(p.html()), "old page");
-}
-
-TEST(BuildDriver, CancelLeavesWithoutAWord)
-{
-    Project p;
-    WriteFileBytes(p.html(), "old page");
-    WriteFileBytes(p.php(), "old script");
-    ScriptedPort port;
-    port.answer(Answer::Cancel);
-    BuildOutput(*p.s, port, 1);
-    EXPECT_TRUE(p.s->build.cancelled);
-    EXPECT_EQ(port.shown.size(), 1u);
-    EXPECT_TRUE(port.editCalls.empty());
-    EXPECT_EQ(ReadFileBytes(p.html()), "old page");
-    EXPECT_EQ(port.busyCalls.back(), false);
+    const struct
+    {
+        const char* name;
+        std::vector<Answer> answers;
+        size_t shown;
+        std::string editKey;
+    } cases[] = {{"No to replacing says CHANGE FILE", {Answer::No, Answer::No}, 3, ""},
+                 {"Yes to changing the folder opens its line", {Answer::Yes}, 1, "DRIVE FOLDER PATH"},
+                 {"Cancel leaves without a word", {Answer::Cancel}, 1, ""}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Project p;
+        WriteFileBytes(p.html(), "old page");
+        WriteFileBytes(p.php(), "old script");
+        ScriptedPort port;
+        for (Answer a : c.answers)
+            port.answer(a);
+        BuildOutput(*p.s, port, 1);
+        EXPECT_EQ(p.s->build.cancelled, c.answers.back() == Answer::Cancel);
+        EXPECT_EQ(p.s->build.buildError, p.s->build.cancelled ? 0 : 1);
+        EXPECT_EQ(p.s->build.folderJump, 0);
+        ASSERT_EQ(port.shown.size(), c.shown);
+        EXPECT_EQ(port.editCalls.empty() ? "" : port.editCalls[0].key, c.editKey);
+        EXPECT_EQ(ReadFileBytes(p.html()), "old page");
+        EXPECT_EQ(ReadFileBytes(p.php()), "old script");
+        EXPECT_EQ(port.busyCalls.back(), false);
+        if (c.answers.size() == 2) {
+            EXPECT_TRUE(
+                Said(port.last(), "Change " + p.php() + " in setup and try again", "CHANGE FILE", Icon::Exclamation));
+        }
+    }
 }
 
 TEST(BuildDriver, AMissingPageBesideAnExistingScriptIsCreatedAndBothQuestionsCome)
