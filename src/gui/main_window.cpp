@@ -170,28 +170,6 @@ int MainWindow::PageNumberOf(View v)
     }
 }
 
-View MainWindow::ViewOfPageNumber(int number)
-{
-    switch (number) {
-    case 1:
-        return View::StartPage;
-    case 3:
-        return View::Page2;
-    case 4:
-        return View::Page3;
-    case 5:
-        return View::Page4;
-    case 9:
-        return View::FinalPage;
-    case 10:
-        return View::EditPage;
-    case 11:
-        return View::Preview;
-    default:
-        return View::Page1;
-    }
-}
-
 void MainWindow::showView(View v)
 {
     if (v >= View::Page1 && v <= View::Page4)
@@ -251,7 +229,7 @@ void MainWindow::registerCommands()
     registerCommand("SetupExit", [this] {
         for (auto* p : madePages())
             p->hidePreview();
-        showView(ViewOfPageNumber(m_currentPage));
+        showView(tq::ViewOfPageNumber(m_currentPage, View::Page1));
     });
     registerFileCommands();
     registerModeCommands();

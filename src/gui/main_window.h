@@ -72,8 +72,6 @@ class MainWindow : public QMainWindow
     /// The page number of a view as the way back counts it: 1 the start page,
     /// 2 to 5 the four Pages, 9 the final page, 10 the edit page, 11 the edit window.
     static int PageNumberOf(View v);
-    /// The view of such a page number; any other number gives Page 1.
-    static View ViewOfPageNumber(int number);
 
     /// Re-reads every view (rows, captions, menus) from the core's records.
     void refreshAll();

@@ -61,12 +61,16 @@ class VersionCheckGuiTest : public QObject
         QVERIFY(server.listen(QHostAddress::LocalHost));
         QString url = QString("http://127.0.0.1:%1/tarnquill/download/revision.txt").arg(server.serverPort());
 
+        const QString report = "Current version : 2.00.0002\nLatest Version    : ";
+        const QString offer = "\n\nA new version is available. Would you like to download the new version?\n\n"
+                              "Note: Exit Tarnquill before installing the new version of Tarnquill";
         server.body = "2.00.0002";
-        QVERIFY(RunCheck(url).startsWith("VERSION UP TO DATE: Current version : 2.00.0002"));
+        QCOMPARE(RunCheck(url), "VERSION UP TO DATE: " + report + "2.00.0002\n\nYou have the latest version");
         server.body = "2.00.0003";
-        QVERIFY(RunCheck(url, QMessageBox::No).startsWith("DOWNLOAD NEW VERSION: "));
+        QCOMPARE(RunCheck(url, QMessageBox::No), "DOWNLOAD NEW VERSION: " + report + "2.00.0003" + offer);
+        // the comparison is exact: a line end after the number is a different text
         server.body = "2.00.0002\r\n";
-        QVERIFY(RunCheck(url, QMessageBox::No).startsWith("DOWNLOAD NEW VERSION: "));
+        QCOMPARE(RunCheck(url, QMessageBox::No), "DOWNLOAD NEW VERSION: " + report + "2.00.0002\n" + offer);
         server.body = "";
         QCOMPARE(RunCheck(url), QString("ERROR: Cannot retrieve the revision from the website"));
         quint16 port = server.serverPort();

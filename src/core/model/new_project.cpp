@@ -28,23 +28,6 @@ constexpr std::array<DefaultRow, 7> kDefaultRows = {{
     {16, "Security Code", "Security Code"},
 }};
 
-View TargetView(int targetPage)
-{
-    switch (targetPage) {
-    case 1:
-        return View::StartPage;
-    case 2:
-        return View::Page1;
-    case 3:
-        return View::Page2;
-    case 4:
-        return View::Page3;
-    case 5:
-        return View::Page4;
-    default:
-        return View::SetupPage;
-    }
-}
 } // namespace
 
 void InitSetupRow(EditContext& c)
@@ -144,7 +127,7 @@ int SwitchMode(
     const bool loading = hooks.loadInProgress && hooks.loadInProgress();
     if (!loading) {
         c.ui.hidePreviews();
-        c.ui.showView(TargetView(targetPage));
+        c.ui.showView(ViewOfPageNumber(targetPage, View::SetupPage));
     }
     if (hooks.refreshStatus)
         hooks.refreshStatus();

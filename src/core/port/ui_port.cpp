@@ -3,6 +3,32 @@
 
 namespace tq {
 
+View ViewOfPageNumber(int number, View otherwise)
+{
+    switch (number) {
+    case 1:
+        return View::StartPage;
+    case 2:
+        return View::Page1;
+    case 3:
+        return View::Page2;
+    case 4:
+        return View::Page3;
+    case 5:
+        return View::Page4;
+    case 6:
+        return View::SetupPage;
+    case 9:
+        return View::FinalPage;
+    case 10:
+        return View::EditPage;
+    case 11:
+        return View::Preview;
+    default:
+        return otherwise;
+    }
+}
+
 std::string ConvertLineBreaks(std::string_view text, std::string_view lineBreak)
 {
     std::string out;

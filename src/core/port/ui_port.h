@@ -94,6 +94,11 @@ struct UiPort
     virtual std::optional<std::string> httpGet(std::string_view /*url*/, int /*timeoutMs*/) { return std::nullopt; }
 };
 
+/// The view that a page number names: 1 the start page, 2 to 5 Page 1 to 4,
+/// 6 the Setup page, 9 the final page, 10 the edit page, 11 the preview;
+/// any other number gives `otherwise`.
+View ViewOfPageNumber(int number, View otherwise);
+
 /// Joins CR-separated message text with the given line break (a port's edge).
 std::string ConvertLineBreaks(std::string_view text, std::string_view lineBreak);
 

@@ -166,24 +166,6 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
     return true;
 }
 
-View ViewOfPage(int page)
-{
-    switch (page) {
-    case 1:
-        return View::StartPage;
-    case 3:
-        return View::Page2;
-    case 4:
-        return View::Page3;
-    case 5:
-        return View::Page4;
-    case 6:
-        return View::SetupPage;
-    default:
-        return View::Page1;
-    }
-}
-
 void RefreshRowEditFlags(model::EntryStore& store)
 {
     for (auto& page : store.pages)
@@ -212,7 +194,7 @@ int OpenProject(
             // "SURVEY" in both cases: a .fms picked in SURVEY mode stays there
             if (hooks.switchMode)
                 hooks.switchMode(s, ui, "SURVEY", sourcePage);
-            ui.showView(ViewOfPage(sourcePage));
+            ui.showView(ViewOfPageNumber(sourcePage, View::Page1));
         } else if (clearPromptKept()) {
             state.LoadPending = false;
             return 1;
@@ -230,7 +212,7 @@ int OpenProject(
     auto fail = [&] {
         s.run.busyMark = kIdle;
         s.run.LoadInProgress = false;
-        ui.showView(ViewOfPage(sourcePage));
+        ui.showView(ViewOfPageNumber(sourcePage, View::Page1));
         return 1;
     };
 

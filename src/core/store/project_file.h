@@ -84,8 +84,4 @@ void RefreshStatus(Session& s);
 /// Enables the edit command of every filled row and of the SetupEntry's row.
 void RefreshRowEditFlags(model::EntryStore& store);
 
-/// The view of a page number as the open commands count them (1 the start
-/// page, 2 to 5 the four Pages, 6 the Setup page).
-View ViewOfPage(int page);
-
 } // namespace tq::store
