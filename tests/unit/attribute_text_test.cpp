@@ -9,248 +9,184 @@ using namespace tq::model;
 
 namespace {
 
-struct Read
+struct Message
 {
-    std::string value;
     std::string text;
-    int err = -1;
+    std::string title;
+    Icon icon;
 };
 
-Read Take(test::ScriptedPort& port, std::string_view key, std::string text, std::string value = "(unset)")
-{
-    Read r{std::move(value), std::move(text), -1};
-    TakeAttribute(port, key, r.value, r.text, r.err);
-    return r;
-}
-
-void ExpectMessage(const test::Shown& m, const std::string& text, const std::string& title, Icon icon)
-{
-    EXPECT_TRUE(Said(m, text, title, icon));
-}
+const std::string kCrit = "Cannot find left [ bracket in [";
+const std::string kFormat = "Right bracket is missing in [TITLE\r\rFormat should be [XXXX=]";
 
 } // namespace
 
-TEST(TakeAttribute, ReadsTheFrontItemAndTrimsAroundIt)
+TEST(TakeAttribute, ReadsAndTellsEachShapeOfItem)
 {
-    test::ScriptedPort port;
-    Read r = Take(port, "[TITLE", "[Title=A]");
-    EXPECT_EQ(r.value, "A");
-    EXPECT_EQ(r.text, "");
-    EXPECT_EQ(r.err, 0);
-
-    r = Take(port, "[TITLE", "  [Title=A] [Info: x]");
-    EXPECT_EQ(r.value, "A");
-    EXPECT_EQ(r.text, "[Info: x]");
-
-    // info items are exempt from the shape check; the key keeps its colon
-    r = Take(port, "[INFO:", r.text);
-    EXPECT_EQ(r.value, " x");
-    EXPECT_EQ(r.text, "");
-
-    // "[" takes any item whole
-    r = Take(port, "[", "[Title Size=3] [Info: Enter Font Size]");
-    EXPECT_EQ(r.value, "Title Size=3");
-    EXPECT_EQ(r.text, "[Info: Enter Font Size]");
-
-    // a key is matched whatever its case
-    r = Take(port, "[title size", "[TITLE SIZE=3]");
-    EXPECT_EQ(r.value, "3");
-    EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(TakeAttribute, EmptyValueAtTheEndLeavesTheBracketAndNoError)
-{
-    test::ScriptedPort port;
-    Read r = Take(port, "[TITLE", "[Title=]");
-    EXPECT_EQ(r.value, "");
-    EXPECT_EQ(r.text, "]");
-    EXPECT_EQ(r.err, 0);
-    EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(TakeAttribute, EmptyValueInTheMiddleIsNotAValidEntry)
-{
-    test::ScriptedPort port;
-    Read r = Take(port, "[TITLE", "[Title=] [Info: x]");
-    EXPECT_EQ(r.err, 1);
-    EXPECT_EQ(r.value, "(unset)");
-    EXPECT_EQ(r.text, "] [Info: x]"); // the key is already gone
-    ASSERT_EQ(port.shown.size(), 1u);
-    ExpectMessage(
-        port.shown[0],
-        "[TITLE is not a valid entry.\r\rShould have a left bracket, followed by a = sign followed by a right "
-        "bracket\r\rExample: [TITLE=This is a test]\r\r] ",
-        "error", Icon::Critical);
-}
-
-TEST(TakeAttribute, MissingOpeningBracketIsToldAndTheReadGoesOn)
-{
-    test::ScriptedPort port;
-    Read r = Take(port, "[TITLE", "Title=A]");
-    EXPECT_EQ(r.err, 1);
-    ASSERT_EQ(port.shown.size(), 2u);
-    ExpectMessage(port.shown[0], "[ bracket missing from Title=A]", "ERROR", Icon::Exclamation);
-    ExpectMessage(port.shown[1], "Cannot find left [ bracket in [TITLE\r\rTitle=A]", "error", Icon::Critical);
-
-    port.clear();
-    r = Take(port, "[TITLE", "");
-    ASSERT_EQ(port.shown.size(), 2u);
-    ExpectMessage(port.shown[0], "[ bracket missing from ", "ERROR", Icon::Exclamation);
-    ExpectMessage(port.shown[1], "Right bracket is missing in [TITLE\r\rFormat should be [XXXX=]", "FORMAT ERROR",
-                  Icon::Exclamation);
-}
-
-TEST(TakeAttribute, ShapeChecks)
-{
-    test::ScriptedPort port;
-    Read r = Take(port, "[TITLE", "[Title=A");
-    EXPECT_EQ(r.err, 1);
-    EXPECT_EQ(r.text, "[Title=A");
-    ExpectMessage(port.last(), "Right bracket is missing in [TITLE\r\rFormat should be [XXXX=]", "FORMAT ERROR",
-                  Icon::Exclamation);
-
-    // an "=" only behind the first "]" is told, and the read still takes the item
-    port.clear();
-    r = Take(port, "[TITLE", "[Title A] [Info: x=y]");
-    EXPECT_EQ(r.err, 1);
-    EXPECT_EQ(r.value, " A");
-    EXPECT_EQ(r.text, "[Info: x=y]");
-    ASSERT_EQ(port.shown.size(), 1u);
-    ExpectMessage(port.shown[0], "Equals sign needs to follow the [ bracket in [TITLE\r\rFormat should be [XXXX=]",
-                  "FORMAT ERROR", Icon::Exclamation);
-
-    // no "=" anywhere: no message
-    port.clear();
-    r = Take(port, "[", "[Security] [Info: x]");
-    EXPECT_EQ(r.err, 0);
-    EXPECT_EQ(r.value, "Security");
-    EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(TakeAttribute, KeyNotAtTheFrontShowsTheItemFound)
-{
-    test::ScriptedPort port;
-    Read r = Take(port, "[Align", "[Title=A] [Align=left]");
-    EXPECT_EQ(r.err, 1);
-    EXPECT_EQ(r.text, "[Title=A] [Align=left]");
-    ExpectMessage(port.last(), "Cannot find left [ bracket in [Align\r\r[Title=A]", "error", Icon::Critical);
-
-    // an info item without any "]" is shown whole
-    port.clear();
-    Take(port, "[TITLE", "[Info: x");
-    ExpectMessage(port.last(), "Cannot find left [ bracket in [TITLE\r\r[Info: x", "error", Icon::Critical);
-}
-
-TEST(TakeAttribute, BracketFaults)
-{
-    test::ScriptedPort port;
-    Take(port, "[INFO:", "[Info: no end");
-    ExpectMessage(port.last(), "Cannot find left ] bracket in [INFO:\r\r", "error", Icon::Critical);
-
-    port.clear();
-    Read r = Take(port, "[TITLE", "[Title=A [Info: x]");
-    EXPECT_EQ(r.err, 1);
-    EXPECT_EQ(r.text, "[Title=A [Info: x]");
-    ExpectMessage(port.last(), "Right ] bracket is missing in [TITLE\r\r", "error", Icon::Critical);
-
-    for (std::string text : {"[Title=A]]", "[Title=A] ]"}) {
-        port.clear();
-        r = Take(port, "[TITLE", text);
-        EXPECT_EQ(r.err, 1);
-        EXPECT_EQ(r.text, text);
-        ASSERT_EQ(port.shown.size(), 1u) << text;
-        ExpectMessage(port.shown[0], "You cannot have 2 Right ]] brackets in [TITLE\r\r", "error", Icon::Critical);
+    const auto E = Icon::Exclamation, C = Icon::Critical;
+    const struct
+    {
+        const char* key;
+        std::string text, value, rest;
+        int err;
+        std::vector<Message> said;
+    } rows[] = {
+        {"[TITLE", "[Title=A]", "A", "", 0, {}},
+        {"[TITLE", "  [Title=A] [Info: x]", "A", "[Info: x]", 0, {}},
+        // info items are exempt from the shape check; the key keeps its colon
+        {"[INFO:", "[Info: x]", " x", "", 0, {}},
+        // "[" takes any item whole; a key is matched whatever its case
+        {"[", "[Title Size=3] [Info: Enter Font Size]", "Title Size=3", "[Info: Enter Font Size]", 0, {}},
+        {"[title size", "[TITLE SIZE=3]", "3", "", 0, {}},
+        // an empty value at the end leaves the bracket; in the middle it is not a valid entry
+        {"[TITLE", "[Title=]", "", "]", 0, {}},
+        {"[TITLE",
+         "[Title=] [Info: x]",
+         "(unset)",
+         "] [Info: x]",
+         1,
+         {{"[TITLE is not a valid entry.\r\rShould have a left bracket, followed by a = sign followed by a right "
+           "bracket\r\rExample: [TITLE=This is a test]\r\r] ",
+           "error", C}}},
+        // a missing "[" is told and the read goes on
+        {"[TITLE",
+         "Title=A]",
+         "(unset)",
+         "Title=A]",
+         1,
+         {{"[ bracket missing from Title=A]", "ERROR", E}, {kCrit + "TITLE\r\rTitle=A]", "error", C}}},
+        {"[TITLE", "", "(unset)", "", 1, {{"[ bracket missing from ", "ERROR", E}, {kFormat, "FORMAT ERROR", E}}},
+        {"[TITLE", "[Title=A", "(unset)", "[Title=A", 1, {{kFormat, "FORMAT ERROR", E}}},
+        // an "=" only behind the first "]" is told, and the read still takes the item
+        {"[TITLE",
+         "[Title A] [Info: x=y]",
+         " A",
+         "[Info: x=y]",
+         1,
+         {{"Equals sign needs to follow the [ bracket in [TITLE\r\rFormat should be [XXXX=]", "FORMAT ERROR", E}}},
+        // no "=" anywhere: no message
+        {"[", "[Security] [Info: x]", "Security", "[Info: x]", 0, {}},
+        // a key not at the front shows the item found; an info item without "]" is shown whole
+        {"[Align",
+         "[Title=A] [Align=left]",
+         "(unset)",
+         "[Title=A] [Align=left]",
+         1,
+         {{kCrit + "Align\r\r[Title=A]", "error", C}}},
+        {"[TITLE", "[Info: x", "(unset)", "[Info: x", 1, {{kCrit + "TITLE\r\r[Info: x", "error", C}}},
+        {"[INFO:",
+         "[Info: no end",
+         "(unset)",
+         "[Info: no end",
+         1,
+         {{"Cannot find left ] bracket in [INFO:\r\r", "error", C}}},
+        {"[TITLE",
+         "[Title=A [Info: x]",
+         "(unset)",
+         "[Title=A [Info: x]",
+         1,
+         {{"Right ] bracket is missing in [TITLE\r\r", "error", C}}},
+        {"[TITLE",
+         "[Title=A]]",
+         "(unset)",
+         "[Title=A]]",
+         1,
+         {{"You cannot have 2 Right ]] brackets in [TITLE\r\r", "error", C}}},
+        {"[TITLE",
+         "[Title=A] ]",
+         "(unset)",
+         "[Title=A] ]",
+         1,
+         {{"You cannot have 2 Right ]] brackets in [TITLE\r\r", "error", C}}},
+        // a "[" inside the value with its "]" right behind passes the bracket test
+        // and is caught when the value has no closing bracket of its own
+        {"[TITLE",
+         "[TitleX=A[]",
+         "(unset)",
+         "X=A[]",
+         1,
+         {{"Cannot find right ] bracket in [TITLE\r\rX=A", "error", C}}},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(std::string(r.key) + " in " + r.text);
+        test::ScriptedPort port;
+        std::string value = "(unset)", text = r.text;
+        int err = -1;
+        TakeAttribute(port, r.key, value, text, err);
+        EXPECT_EQ(err, r.err);
+        EXPECT_EQ(value, r.value);
+        EXPECT_EQ(text, r.rest);
+        ASSERT_EQ(port.shown.size(), r.said.size());
+        for (size_t i = 0; i < r.said.size(); ++i)
+            EXPECT_TRUE(Said(port.shown[i], r.said[i].text, r.said[i].title, r.said[i].icon));
     }
-
-    // a "[" inside the value with its "]" right behind passes the bracket test
-    // and is caught when the value has no closing bracket of its own
-    port.clear();
-    r = Take(port, "[TITLE", "[TitleX=A[]");
-    EXPECT_EQ(r.err, 1);
-    EXPECT_EQ(r.text, "X=A[]");
-    ExpectMessage(port.last(), "Cannot find right ] bracket in [TITLE\r\rX=A", "error", Icon::Critical);
 }
 
 TEST(TakeAttribute, ServerDownloadPathGetsItsSlash)
 {
+    const std::pair<const char*, const char*> rows[] = {
+        {"https://x.example/files] [Info: y]", "https://x.example/files/"},
+        {"https://x.example/files/]", "https://x.example/files/"},
+        {"C:\\files\\]", "C:\\files\\"}, // no "/" at all: left alone
+        {"a/b\\]", "a/b\\"}};
     test::ScriptedPort port;
-    std::string value, folder;
+    for (const auto& [item, folder] : rows) {
+        std::string value, found, text = std::string("[Server Download=") + item;
+        int err = -1;
+        TakeAttribute(port, "[SERVER DOWNLOAD", value, text, err, &found);
+        EXPECT_EQ(found, folder) << item;
+    }
+    std::string value, folder, text = "[Server Download=https://x.example/files] [Info: y]";
     int err = -1;
-    std::string text = "[Server Download=https://x.example/files] [Info: y]";
     TakeAttribute(port, "[SERVER DOWNLOAD", value, text, err, &folder);
     EXPECT_EQ(value, "https://x.example/files");
-    EXPECT_EQ(folder, "https://x.example/files/");
-
-    text = "[Server Download=https://x.example/files/]";
-    TakeAttribute(port, "[SERVER DOWNLOAD", value, text, err, &folder);
-    EXPECT_EQ(folder, "https://x.example/files/");
-    text = "[Server Download=C:\\files\\]";
-    TakeAttribute(port, "[SERVER DOWNLOAD", value, text, err, &folder);
-    EXPECT_EQ(folder, "C:\\files\\"); // no "/" at all: left alone
-    text = "[Server Download=a/b\\]";
-    TakeAttribute(port, "[SERVER DOWNLOAD", value, text, err, &folder);
-    EXPECT_EQ(folder, "a/b\\");
     EXPECT_TRUE(port.shown.empty());
 }
 
-TEST(TakeChoiceList, SplitsAtCommasAndDropsBlankPieces)
+TEST(TakeChoiceList, SplitsAtCommasAndTellsEachFault)
 {
-    test::ScriptedPort port;
-    ChoiceList list;
-    int err = -1;
-    std::string text = "[Choices=a, ,b]";
-    TakeChoiceList(port, "CHOICES", text, list, err);
-    EXPECT_EQ(err, 0);
-    EXPECT_EQ(list.items, (std::vector<std::string>{"a", "b"}));
-    EXPECT_EQ(text, "");
-
-    text = "  [Check Box=Beginner, Intermediate ,Advanced] [Choices=User selections]  ";
-    TakeChoiceList(port, "CHECK BOX", text, list, err);
-    EXPECT_EQ(list.items, (std::vector<std::string>{"Beginner", "Intermediate ", "Advanced"}));
-    EXPECT_EQ(text, "[Choices=User selections]");
-
-    // "[" takes the next item; everything up to its "=" goes
-    text = "[Default Dropdown Value=Ohio,Colorado,Florida] [Choices=x]";
-    TakeChoiceList(port, "[", text, list, err);
-    EXPECT_EQ(list.items, (std::vector<std::string>{"Ohio", "Colorado", "Florida"}));
-
-    text = "[Files=test.ppt]";
-    TakeChoiceList(port, "[FILES", text, list, err);
-    EXPECT_EQ(list.items, (std::vector<std::string>{"test.ppt"}));
-
-    // a second "=" cuts the value before it
-    text = "[Choices=a=b,c,]";
-    TakeChoiceList(port, "CHOICES", text, list, err);
-    EXPECT_EQ(list.items, (std::vector<std::string>{"b", "c"}));
-    EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(TakeChoiceList, Messages)
-{
-    test::ScriptedPort port;
-    ChoiceList list;
-    int err = 0;
-    std::string text = "x [Choices=a]";
-    TakeChoiceList(port, "CHOICES", text, list, err);
-    EXPECT_EQ(err, 1);
-    ExpectMessage(port.last(), "Cannot find ->[CHOICES <- in \rx [Choices=a]", "error", Icon::Critical);
-
-    text = "[Title=a,b]";
-    TakeChoiceList(port, "CHOICES", text, list, err);
-    ExpectMessage(port.last(), "Cannot find [Choices= in \r[Title=a,b]", "error", Icon::Critical);
-
-    text = "[Choices=a,b [Info: x]";
-    TakeChoiceList(port, "CHOICES", text, list, err);
-    ExpectMessage(port.last(), "Cannot find a right bracket ] in \r[Choices=a,b [Info: x]", "error", Icon::Critical);
-
-    text = "[Choices=] [Info: x]";
-    TakeChoiceList(port, "CHOICES", text, list, err);
-    EXPECT_EQ(err, 1);
-    EXPECT_EQ(list.count(), 0);
-    EXPECT_EQ(text, "[Choices=] [Info: x]");
-    ExpectMessage(port.last(), "Cannot find a comma in User response in \r[Choices=] [Info: x]", "error",
-                  Icon::Critical);
-    EXPECT_EQ(port.shown.size(), 4u);
+    using V = std::vector<std::string>;
+    const std::string cannot = "Cannot find ";
+    const struct
+    {
+        const char* key;
+        std::string text;
+        V items;
+        std::string rest;
+        int err;
+        std::string said; // one "error" message, or none
+    } rows[] = {
+        {"CHOICES", "[Choices=a, ,b]", V{"a", "b"}, "", 0, ""},
+        {"CHECK BOX", "  [Check Box=Beginner, Intermediate ,Advanced] [Choices=User selections]  ",
+         V{"Beginner", "Intermediate ", "Advanced"}, "[Choices=User selections]", 0, ""},
+        // "[" takes the next item; everything up to its "=" goes
+        {"[", "[Default Dropdown Value=Ohio,Colorado,Florida] [Choices=x]", V{"Ohio", "Colorado", "Florida"},
+         "[Choices=x]", 0, ""},
+        {"[FILES", "[Files=test.ppt]", V{"test.ppt"}, "", 0, ""},
+        // a second "=" cuts the value before it
+        {"CHOICES", "[Choices=a=b,c,]", V{"b", "c"}, "", 0, ""},
+        {"CHOICES", "x [Choices=a]", V{}, "x [Choices=a]", 1, cannot + "->[CHOICES <- in \rx [Choices=a]"},
+        {"CHOICES", "[Title=a,b]", V{}, "[Title=a,b]", 1, cannot + "[Choices= in \r[Title=a,b]"},
+        {"CHOICES", "[Choices=a,b [Info: x]", V{}, "[Choices=a,b [Info: x]", 1,
+         cannot + "a right bracket ] in \r[Choices=a,b [Info: x]"},
+        {"CHOICES", "[Choices=] [Info: x]", V{}, "[Choices=] [Info: x]", 1,
+         cannot + "a comma in User response in \r[Choices=] [Info: x]"},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.text);
+        test::ScriptedPort port;
+        ChoiceList list;
+        std::string text = r.text;
+        int err = -1;
+        TakeChoiceList(port, r.key, text, list, err);
+        EXPECT_EQ(err, r.err);
+        EXPECT_EQ(list.items, r.items);
+        EXPECT_EQ(text, r.rest);
+        ASSERT_EQ(port.shown.size(), r.said.empty() ? 0u : 1u);
+        if (!r.said.empty()) {
+            EXPECT_TRUE(Said(port.last(), r.said, "error", Icon::Critical));
+        }
+    }
 }
 
 TEST(TakeChoiceList, PassingTheBoundIsAnInternalError)
@@ -266,14 +202,32 @@ TEST(TakeChoiceList, PassingTheBoundIsAnInternalError)
     EXPECT_THROW(TakeChoiceList(port, "CHOICES", text, list, err), InternalError);
 }
 
-TEST(SplitLines, SeparatorInEitherCaseAndLeftTrimmedLines)
+TEST(SplitLines, BothSplittersLineByLine)
 {
-    EXPECT_EQ(SplitLines("line1\\nline2").items, (std::vector<std::string>{"line1", "line2"}));
-    EXPECT_EQ(SplitLines("line1\\Nline2").items, (std::vector<std::string>{"line1", "line2"}));
-    EXPECT_EQ(SplitLines("  one").items, (std::vector<std::string>{"one"}));
-    EXPECT_EQ(SplitLines("a \\n  b\\n\\nc\\n  ").items, (std::vector<std::string>{"a ", "b", "", "c"}));
-    EXPECT_EQ(SplitLines("\\n\\nabc").count(), 0);
-    EXPECT_EQ(SplitLines(" \\nabc").items, (std::vector<std::string>{"", "abc"}));
+    using V = std::vector<std::string>;
+    // SplitLines: separator in either case, lines left-trimmed, an empty first line ends the list
+    const std::pair<const char*, V> plain[] = {{"line1\\nline2", V{"line1", "line2"}},
+                                               {"line1\\Nline2", V{"line1", "line2"}},
+                                               {"  one", V{"one"}},
+                                               {"a \\n  b\\n\\nc\\n  ", V{"a ", "b", "", "c"}},
+                                               {"\\n\\nabc", V{}},
+                                               {" \\nabc", V{"", "abc"}}};
+    for (const auto& [in, want] : plain)
+        EXPECT_EQ(SplitLines(in).items, want) << in;
+    // SplitHtmlLines keeps empty lines and blanks; runs of blanks from position 6 become
+    // "&nbsp;" losing three characters, three blanks are not a run
+    const std::pair<const char*, V> html[] = {{"", V{}},
+                                              {"\\n\\nabc", V{"", "", "abc"}},
+                                              {"a\\n", V{"a"}},
+                                              {"a\\N\\n", V{"a", ""}},
+                                              {" a \\n b", V{" a ", " b"}},
+                                              {"  x", V{"&nbsp;  x"}},
+                                              {"a        b", V{"a   &nbsp;  b"}},
+                                              {"ab            c", V{"ab  &nbsp;  &nbsp;  c"}},
+                                              {"abcdefg   h", V{"abcdefg   h"}},
+                                              {"a    b", V{"a    b"}}};
+    for (const auto& [in, want] : html)
+        EXPECT_EQ(SplitHtmlLines(in).items, want) << in;
 }
 
 TEST(SplitLines, EmptyTextKeepsThePreviousLinesAndTheTextIsConsumed)
@@ -287,26 +241,6 @@ TEST(SplitLines, EmptyTextKeepsThePreviousLinesAndTheTextIsConsumed)
     EXPECT_EQ(lines.items, (std::vector<std::string>{"x", "y"}));
 
     EXPECT_THROW(SplitLines(test::Repeat("l\\n", 101)), InternalError);
-}
-
-TEST(SplitHtmlLines, KeepsEmptyLinesAndBlanks)
-{
-    EXPECT_EQ(SplitHtmlLines("").count(), 0);
-    EXPECT_EQ(SplitHtmlLines("\\n\\nabc").items, (std::vector<std::string>{"", "", "abc"}));
-    EXPECT_EQ(SplitHtmlLines("a\\n").items, (std::vector<std::string>{"a"}));
-    EXPECT_EQ(SplitHtmlLines("a\\N\\n").items, (std::vector<std::string>{"a", ""}));
-    EXPECT_EQ(SplitHtmlLines(" a \\n b").items, (std::vector<std::string>{" a ", " b"}));
-}
-
-TEST(SplitHtmlLines, RunsOfBlanksBecomeNbspLosingThreeCharacters)
-{
-    EXPECT_EQ(SplitHtmlLines("  x").items, (std::vector<std::string>{"&nbsp;  x"}));
-    // four blanks at position 6 of "a" + 8 blanks + "b": characters 5 to 7 are lost
-    EXPECT_EQ(SplitHtmlLines("a        b").items, (std::vector<std::string>{"a   &nbsp;  b"}));
-    EXPECT_EQ(SplitHtmlLines("ab            c").items, (std::vector<std::string>{"ab  &nbsp;  &nbsp;  c"}));
-    // three blanks are not a run; a run before position 6 is not looked at
-    EXPECT_EQ(SplitHtmlLines("abcdefg   h").items, (std::vector<std::string>{"abcdefg   h"}));
-    EXPECT_EQ(SplitHtmlLines("a    b").items, (std::vector<std::string>{"a    b"}));
 }
 
 TEST(SplitHtmlLines, PassingTheBoundIsAnInternalError)
@@ -383,59 +317,46 @@ TEST(AttributeGroups, LineGroupReadsStoredLines)
     EXPECT_EQ(port.shown.size(), 1u);
 }
 
-TEST(NormalizeAttributeText, BlockKeyFirstLosesItsBlankLineAndRunsBecomeOne)
+TEST(NormalizeAttributeText, OneItemALineFromTheFirstLineOnly)
 {
-    test::ScriptedPort port;
-    // two keys match "BACKGROUND IMAGE PATH ON YOUR WEB SERVER" in the middle: one blank line stays
-    EXPECT_EQ(NormalizeAttributeText(port, "[Background Color=16777215] [Info: page colour] "
-                                           "[Background Image Path On Your Web Server=;x] [Info: y]"),
-              "[Background Color=16777215]\r\n[Info: page colour]\r\n\r\n"
-              "[Background Image Path On Your Web Server=;x]\r\n[Info: y]\r\n");
-    // at the front only the first blank line goes, the second is written
-    EXPECT_EQ(NormalizeAttributeText(port, "[Background Image Path On Your Web Server=;x] [Info: y]"),
-              "\r\n[Background Image Path On Your Web Server=;x]\r\n[Info: y]\r\n");
-    EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(NormalizeAttributeText, SecurityIsComparedOverTwelveCharacters)
-{
-    test::ScriptedPort port;
-    EXPECT_EQ(NormalizeAttributeText(port, "[Title=T] [Security=abc] [Info: x] [Security]"),
-              "[Title=T]\r\n[Security=abc]\r\n[Info: x]\r\n\r\n[Security]\r\n");
-    // the value-less item after an "=" is told once, and the text is still stored
-    ASSERT_EQ(port.shown.size(), 0u);
-    EXPECT_EQ(NormalizeAttributeText(port, "[Security] [Title=T]"), "[Security]\r\n[Title=T]\r\n");
-    ASSERT_EQ(port.shown.size(), 1u);
-    EXPECT_EQ(port.shown[0].title, "FORMAT ERROR");
-}
-
-TEST(NormalizeAttributeText, OnlyTheFirstLineIsReadAndTextOutsideItemsGoes)
-{
-    test::ScriptedPort port;
-    EXPECT_EQ(NormalizeAttributeText(port, "[A=1]  [B=2] tail\r\n[C=3]\r\n"), "[A=1]\r\n[B=2]\r\n");
-    EXPECT_EQ(NormalizeAttributeText(port, "no items"), "");
-    EXPECT_EQ(NormalizeAttributeText(port, ""), "");
-    EXPECT_EQ(NormalizeAttributeText(port, "[Title=] [Info: x]"), "[Title=]\r\n[Info: x]\r\n");
-    EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(NormalizeAttributeText, BrokenTextStaysAsTheLastLine)
-{
-    test::ScriptedPort port;
-    EXPECT_EQ(NormalizeAttributeText(port, "[Title=A] [Broken [Info: x]"), "[Title=A]\r\n[Broken [Info: x]\r\n");
-    ASSERT_EQ(port.shown.size(), 1u);
-    EXPECT_EQ(port.shown[0].text, "Right ] bracket is missing in [\r\r");
-
-    port.clear();
-    EXPECT_EQ(NormalizeAttributeText(port, "  lead [Title=A]"), "lead [Title=A]\r\n");
-    EXPECT_EQ(port.shown.size(), 2u);
-
-    port.clear();
-    EXPECT_EQ(NormalizeAttributeText(port, "[Title=A] [Unclosed"), "[Title=A]\r\n[Unclosed\r\n");
-
-    // a fault found after the reader took the "[" off still keeps the whole rest
-    port.clear();
-    EXPECT_EQ(NormalizeAttributeText(port, "[A=1] [x[]"), "[A=1]\r\n[x[]\r\n");
-    ASSERT_EQ(port.shown.size(), 1u);
-    EXPECT_EQ(port.shown[0].text, "Cannot find right ] bracket in [\r\rx");
+    const struct
+    {
+        std::string in, out;
+        int messages;
+        std::string first; // "title: text" of the first message
+    } rows[] = {
+        // two keys match "BACKGROUND IMAGE PATH ON YOUR WEB SERVER" in the middle: one blank line stays
+        {"[Background Color=16777215] [Info: page colour] [Background Image Path On Your Web Server=;x] [Info: y]",
+         "[Background Color=16777215]\r\n[Info: page colour]\r\n\r\n"
+         "[Background Image Path On Your Web Server=;x]\r\n[Info: y]\r\n",
+         0, ""},
+        // at the front only the first blank line goes, the second is written
+        {"[Background Image Path On Your Web Server=;x] [Info: y]",
+         "\r\n[Background Image Path On Your Web Server=;x]\r\n[Info: y]\r\n", 0, ""},
+        // SECURITY is compared over twelve characters; a value-less item after an "=" is told once
+        {"[Title=T] [Security=abc] [Info: x] [Security]",
+         "[Title=T]\r\n[Security=abc]\r\n[Info: x]\r\n\r\n[Security]\r\n", 0, ""},
+        {"[Security] [Title=T]", "[Security]\r\n[Title=T]\r\n", 1,
+         "FORMAT ERROR: Equals sign needs to follow the [ bracket in [\r\rFormat should be [XXXX=]"},
+        // text outside the items goes, and so do the lines after the first
+        {"[A=1]  [B=2] tail\r\n[C=3]\r\n", "[A=1]\r\n[B=2]\r\n", 0, ""},
+        {"no items", "", 0, ""},
+        {"", "", 0, ""},
+        {"[Title=] [Info: x]", "[Title=]\r\n[Info: x]\r\n", 0, ""},
+        // broken text stays as the last line, even after the reader took the "[" off
+        {"[Title=A] [Broken [Info: x]", "[Title=A]\r\n[Broken [Info: x]\r\n", 1,
+         "error: Right ] bracket is missing in [\r\r"},
+        {"  lead [Title=A]", "lead [Title=A]\r\n", 2, ""},
+        {"[Title=A] [Unclosed", "[Title=A]\r\n[Unclosed\r\n", 1, ""},
+        {"[A=1] [x[]", "[A=1]\r\n[x[]\r\n", 1, "error: Cannot find right ] bracket in [\r\rx"},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.in);
+        test::ScriptedPort port;
+        EXPECT_EQ(NormalizeAttributeText(port, r.in), r.out);
+        ASSERT_EQ(port.shown.size(), static_cast<size_t>(r.messages));
+        if (!r.first.empty()) {
+            EXPECT_EQ(port.shown[0].title + ": " + port.shown[0].text, r.first);
+        }
+    }
 }

@@ -150,22 +150,12 @@ TEST(FlatList, FullPagesTakeTwoHundredLinesAndTheListBoundIsFourHundred)
 
 TEST(FlatList, FlatLineToRowTestsTheLineNumber)
 {
-    EXPECT_EQ(FlatLineToRow(1), (RowRef{1, 0}));
-    EXPECT_EQ(FlatLineToRow(2), (RowRef{1, 0}));
-    EXPECT_EQ(FlatLineToRow(49), (RowRef{1, 24}));
-    EXPECT_EQ(FlatLineToRow(50), (RowRef{1, 24}));
-    EXPECT_EQ(FlatLineToRow(51), (RowRef{2, 0}));
-    EXPECT_EQ(FlatLineToRow(100), (RowRef{2, 24}));
-    EXPECT_EQ(FlatLineToRow(101), (RowRef{3, 0}));
-    EXPECT_EQ(FlatLineToRow(151), (RowRef{4, 0}));
-    EXPECT_EQ(FlatLineToRow(199), (RowRef{4, 24}));
-    EXPECT_EQ(FlatLineToRow(200), (RowRef{4, 24}));
-    EXPECT_THROW(FlatLineToRow(0), InternalError);
-    EXPECT_THROW(FlatLineToRow(201), InternalError);
-    EXPECT_THROW(FlatLineToRow(-5), InternalError);
-    // every line maps back to the row whose ordinal is k
+    for (int bad : {0, 201, -5})
+        EXPECT_THROW(FlatLineToRow(bad), InternalError) << bad;
+    // every line maps to the row of ordinal (n + 1) / 2: 25 rows a page, two lines a row
     for (int n = 1; n <= 200; ++n) {
-        const RowRef r = FlatLineToRow(n);
-        EXPECT_EQ(RowOrdinal(r.page, r.row), (n + 1) / 2) << n;
+        const int k = (n + 1) / 2;
+        EXPECT_EQ(FlatLineToRow(n), (RowRef{(k - 1) / 25 + 1, (k - 1) % 25})) << n;
+        EXPECT_EQ(RowOrdinal((k - 1) / 25 + 1, (k - 1) % 25), k);
     }
 }

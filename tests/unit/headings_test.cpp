@@ -21,17 +21,16 @@ TEST(Numbering, PairRuleGivesAAndBAndDownloadCountsPlain)
 {
     HtmlFixture f;
     auto& b = f.s.build;
-    std::string c1 = "Name", c2 = "Cond", c3 = "Follow", c4 = "Files", c5 = "Next";
-    html::NumberForMessage(b, c1, "NAME");
-    html::NumberForMessage(b, c2, "condition with comment");
-    html::NumberForMessage(b, c3, "FOLLOWUP WITH COMMENT");
-    html::NumberForMessage(b, c4, "DOWNLOAD FILES");
-    html::NumberForMessage(b, c5, "FOLLOWUP FILES WITH PASSWORD");
-    EXPECT_EQ(c1, "1. Name");
-    EXPECT_EQ(c2, "2a. Cond");
-    EXPECT_EQ(c3, "2b. Follow");
-    EXPECT_EQ(c4, "3. Files");
-    EXPECT_EQ(c5, "3b. Next");
+    const std::pair<const char*, const char*> steps[] = {{"NAME", "1. "},
+                                                         {"condition with comment", "2a. "},
+                                                         {"FOLLOWUP WITH COMMENT", "2b. "},
+                                                         {"DOWNLOAD FILES", "3. "},
+                                                         {"FOLLOWUP FILES WITH PASSWORD", "3b. "}};
+    for (const auto& [type, number] : steps) {
+        std::string caption = "x";
+        html::NumberForMessage(b, caption, type);
+        EXPECT_EQ(caption, std::string(number) + "x") << type;
+    }
     EXPECT_EQ(b.messageNumber, 3);
     EXPECT_EQ(b.questionNumber, 0);
 }
@@ -64,10 +63,8 @@ TEST(Numbering, RecordQuestionKeepsTheCaptionFreeOfNbsp)
     b.setupValues.NumberEachQuestion = "NO";
     html::RecordQuestion(b, "email5", off, "EMAIL");
     EXPECT_EQ(b.messageLineCount, 4);
-    EXPECT_EQ(b.messageLines[1], "1. Your name");
-    EXPECT_EQ(b.messageLines[2], "name3");
-    EXPECT_EQ(b.messageLines[3], "2. E-mail");
-    EXPECT_EQ(b.messageLines[4], "email5");
+    EXPECT_EQ(std::vector<std::string>(b.messageLines.begin() + 1, b.messageLines.begin() + 5),
+              (std::vector<std::string>{"1. Your name", "name3", "2. E-mail", "email5"}));
     EXPECT_EQ(title, "1. &nbsp;Your name");
     EXPECT_EQ(off, "E-mail"); // the page carries no number, the caption still does
 }
@@ -85,16 +82,13 @@ TEST(SplitTitle, MarkersInAnyCaseEmptyLinesAndNoTrailingLine)
 {
     HtmlFixture f;
     auto& lines = f.s.build.TitleLines;
+    using V = std::vector<std::string>;
     html::SplitTitle(f.s.build, "a\\n\\Nb");
-    ASSERT_EQ(lines.count(), 3);
-    EXPECT_EQ(lines.at(1), "a");
-    EXPECT_EQ(lines.at(2), "");
-    EXPECT_EQ(lines.at(3), "b");
+    EXPECT_EQ(lines.items, (V{"a", "", "b"}));
     html::SplitTitle(f.s.build, "one\\n");
-    ASSERT_EQ(lines.count(), 1);
-    EXPECT_EQ(lines.at(1), "one");
+    EXPECT_EQ(lines.items, V{"one"});
     html::SplitTitle(f.s.build, ""); // an empty title leaves the lines as they stand
-    EXPECT_EQ(lines.count(), 1);
+    EXPECT_EQ(lines.items, V{"one"});
     EXPECT_THROW(html::SplitTitle(f.s.build, tq::test::Repeat("x\\n", 151) + "last"), tq::model::InternalError);
 }
 
@@ -103,10 +97,8 @@ TEST(SplitTitle, BlankRunsBecomeNbspWithTheFormatsCut)
     HtmlFixture f;
     auto& lines = f.s.build.TitleLines;
     html::SplitTitle(f.s.build, "  lead\\nabcdef    ghij\\n short");
-    ASSERT_EQ(lines.count(), 3);
-    EXPECT_EQ(lines.at(1), "&nbsp;  lead");
-    EXPECT_EQ(lines.at(2), "abcde&nbsp;  ghij"); // the "f" goes with the cut
-    EXPECT_EQ(lines.at(3), " short");
+    // the "f" goes with the cut
+    EXPECT_EQ(lines.items, (std::vector<std::string>{"&nbsp;  lead", "abcde&nbsp;  ghij", " short"}));
 }
 
 TEST(FormHeading, TwoLinesRequiredWithStylesAndALeadingBlank)

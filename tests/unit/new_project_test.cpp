@@ -18,6 +18,15 @@ std::vector<std::string> Page1Names(EditFixture& f)
     return out;
 }
 
+/// Page 1 with these names in its first rows and in rows 15 and 16, the rest empty.
+std::vector<std::string> Page1(std::vector<std::string> top)
+{
+    top.resize(15);
+    top.insert(top.end(), {"Comments Not Required", "Security Code"});
+    top.resize(25);
+    return top;
+}
+
 std::string Stored(std::string_view oneLine)
 {
     test::ScriptedPort quiet;
@@ -46,15 +55,7 @@ TEST(InitNewProject, AFormHasSevenRowsOnPage1)
 {
     EditFixture f;
     InitNewProject(f.ctx);
-    std::vector<std::string> expected(25);
-    expected[0] = "Setup";
-    expected[1] = "Title 1 Single Line";
-    expected[2] = "Subject";
-    expected[3] = "Name";
-    expected[4] = "Email";
-    expected[15] = "Comments Not Required";
-    expected[16] = "Security Code";
-    EXPECT_EQ(Page1Names(f), expected);
+    EXPECT_EQ(Page1Names(f), Page1({"Setup", "Title 1 Single Line", "Subject", "Name", "Email"}));
     EXPECT_EQ(CountFilledRows(f.store), 7);
     EXPECT_EQ(f.at(1, 0).AttributeText, Stored(f.catalogue.SetupTemplate));
     EXPECT_EQ(f.at(1, 3).AttributeText, Stored(CatalogueTemplate(f.catalogue, f.index("Name"))));
@@ -67,16 +68,8 @@ TEST(InitNewProject, ASurveyHasEightRowsOnPage1)
     EditFixture f("SURVEY");
     f.store.state.CurrentFileName = "/x/old.srv";
     InitNewProject(f.ctx);
-    std::vector<std::string> expected(25);
-    expected[0] = "Setup";
-    expected[1] = "Title Header";
-    expected[2] = "Survey Intro";
-    expected[3] = "Title 1 Single Line";
-    expected[4] = "Table Choices Required";
-    expected[5] = "Table Text Required";
-    expected[15] = "Comments Not Required";
-    expected[16] = "Security Code";
-    EXPECT_EQ(Page1Names(f), expected);
+    EXPECT_EQ(Page1Names(f), Page1({"Setup", "Title Header", "Survey Intro", "Title 1 Single Line",
+                                    "Table Choices Required", "Table Text Required"}));
     EXPECT_EQ(f.store.state.CurrentFileName, "");
     EXPECT_NE(f.at(1, 0).AttributeText.find("[TQL Output File=surveytql.htm]\r\n"), std::string::npos);
 }

@@ -203,10 +203,11 @@ TEST(SampleProjects, TheTwoSamplesOfAModeHoldEveryInputTypeOnce)
 TEST(SampleProjects, SamplesAreWhatTheProgramMakes)
 {
     const std::string folder = kSource + "/data/samples/";
-    CheckOrWrite(folder + "sample_form.fms", MakeSample("FORM", 0));
-    CheckOrWrite(folder + "sample_form_2.fms", MakeSample("FORM", 1));
-    CheckOrWrite(folder + "sample_survey.srv", MakeSample("SURVEY", 0));
-    CheckOrWrite(folder + "sample_survey_2.srv", MakeSample("SURVEY", 1));
+    for (const char* name : {"sample_form.fms", "sample_form_2.fms", "sample_survey.srv", "sample_survey_2.srv"}) {
+        const std::string n = name;
+        CheckOrWrite(folder + n, MakeSample(n.find("form") != std::string::npos ? "FORM" : "SURVEY",
+                                            n.find("_2.") != std::string::npos ? 1 : 0));
+    }
 }
 
 // The FORM of the end-to-end scenarios: what a visitor fills in, checked by
@@ -219,16 +220,12 @@ TEST(SampleProjects, EndToEndFormIsWhatTheProgramMakes)
     m.set(0, "Email #1", "a@example.com");
     m.set(0, "Email #2", "b@example.com");
     m.set(0, "Email #3", "c@example.com");
-    m.add("Title 1 Single Line");
-    m.add("Name");
-    m.add("Email");
-    m.add("Subject");
-    m.add("Phone Number");
+    for (const char* name : {"Title 1 Single Line", "Name", "Email", "Subject", "Phone Number"})
+        m.add(name);
     const int comments = m.add("Comments Required");
     m.set(comments, "Title", "Wie haben Sie uns gefunden? Grüße aus Łódź");
-    m.add("Question YesNo Required");
-    m.add("Dropdown Required");
-    m.add("Checkbox Horizontal");
+    for (const char* name : {"Question YesNo Required", "Dropdown Required", "Checkbox Horizontal"})
+        m.add(name);
     const int condition = m.add("Condition With Comment");
     m.set(condition + 1, "Title", "Tell us when");
     const int password = m.add("Password");
@@ -250,13 +247,9 @@ TEST(SampleProjects, EndToEndSurveyIsWhatTheProgramMakes)
 {
     ProjectMaker m("SURVEY");
     FillSetup(m, "Tarnquill Survey Test");
-    m.add("Title Header");
-    m.add("Name");
-    m.add("Table Choices Required");
-    m.add("Table Text Required");
-    m.add("Dropdown Required");
-    m.add("Dropdown Not Required");
-    m.add("Checkbox Horizontal");
+    for (const char* name : {"Title Header", "Name", "Table Choices Required", "Table Text Required",
+                             "Dropdown Required", "Dropdown Not Required", "Checkbox Horizontal"})
+        m.add(name);
     m.activateSamplePaths();
     CheckOrWrite(kSource + "/tests/e2e/fixtures/e2e_survey.srv", m.projectFile());
 }
@@ -266,9 +259,8 @@ TEST(SampleProjects, BlankKeyFormIsWhatTheProgramMakes)
 {
     ProjectMaker m("FORM");
     FillSetup(m, "Tarnquill Test");
-    m.add("Name");
-    m.add("Cell Phone Number");
-    m.add("User Name");
+    for (const char* name : {"Name", "Cell Phone Number", "User Name"})
+        m.add(name);
     m.activateSamplePaths();
     CheckOrWrite(kSource + "/tests/e2e/fixtures/blank_keys.fms", m.projectFile());
 }

@@ -171,91 +171,85 @@ class LineChecks : public ::testing::Test
     std::string lastValue;
 };
 
-TEST_F(LineChecks, BlankAndShortValues)
-{
-    EXPECT_EQ(Check("Align", "\r\n"), "ALIGN\rCANNOT BE LEFT BLANK");
-    EXPECT_EQ(Check("Title", "ab"), "Title\rcannot be left blank");
-    EXPECT_EQ(Check("Error Message", ""), "ERROR MESSAGE\rCANNOT BE LEFT BLANK");
-    EXPECT_EQ(Check("Error Message", "????"), "ERROR MESSAGE\rCANNOT HAVE A ????");
-    EXPECT_EQ(Check("GLOBAL TEXT COLOR", ""), "");
-}
-
-TEST_F(LineChecks, ChoiceValues)
-{
-    EXPECT_EQ(Check("loop", "infinite"), "");
-    EXPECT_EQ(Check("loop", "10"), "LOOP\rMUST BE SET TO 1,2,3,4,5,6,7,8,9 or Infinite");
-    EXPECT_EQ(Check("AutoStart", "sometimes"), "AUTOSTART\rMUST BE SET TO EITHER ON, OFF OR MOUSEOVER");
-    EXPECT_EQ(Check("Required", "yes"), "");
-    EXPECT_EQ(Check("Visible Download", "maybe"), "VISIBLE DOWNLOAD\rMUST BE SET TO EITHER YES OR NO");
-    EXPECT_EQ(Check("Bold", "of"), "BOLD\rMUST BE SET TO EITHER ON OR OFF");
-    EXPECT_EQ(Check("Picture Align", "middle"), "PICTURE ALIGN\rMUST BE SET TO LEFT, RIGHT OR CENTER");
-}
-
-TEST_F(LineChecks, NumbersAndWidths)
-{
-    EXPECT_EQ(Check("Title Shade Width", "40"), "TITLE SHADE WIDTH\rMUST HAVE A % AFTER THE TITLE SHADE WIDTH\r"
-                                                "EXAMPLE: 40%");
-    EXPECT_EQ(Check("Title Shade Width", "40%"), "");
-    EXPECT_EQ(Check("Line Width", "wide%"), "LINE WIDTH\rMUST HAVE A NUMBER");
-    EXPECT_EQ(Check("Title Size", "3"), "");
-    EXPECT_EQ(Check("Video Height", "tall"), "VIDEO HEIGHT\rMUST HAVE A NUMBER");
-}
-
-TEST_F(LineChecks, LinksAndServerPaths)
-{
-    EXPECT_EQ(Check("Link To", ";index.htm"),
-              "LINK TO\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB PAGE LINK.\r\r"
-              "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN THE USER CLICKS ON THE CANCEL BUTTON\r\r"
-              "Example: index.htm");
-    EXPECT_EQ(Check("Link To", "index"),
-              "LINK TO\rDOES NOT HAVE A VALID URL WEB LINK. MISSING THE PERIOD\r\rExample: index.htm");
-    EXPECT_EQ(Check("Link To", "&nbsp;a.htm"), "LINK TO\rCANNOT START WITH A SPACE\r\rPLEASE REMOVE THE SPACE");
-    EXPECT_EQ(Check("Thank You File", ";x.htm"),
-              "THANK YOU FILE\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB SERVER PATH\r\r"
-              "NOTE: THIS IS THE FILE THAT THE USER IS TAKEN TO AFTER THE USER DOWNLOADS THE FILES\r\r"
-              "Example: https://www.tarnquill.example/thankyou.htm\r\r"
-              "PLEASE REMOVE THE SEMI-COLON(;) AND ENTER YOUR OWN WEB SERVER PATH");
-    EXPECT_EQ(Check("Server Download", "myfiles"), "SERVER DOWNLOAD\rDOES NOT HAVE A VALID URL WEB LINK. MISSING\r"
-                                                   "www.\r\rExample: https://www.tarnquill.example/test");
-    EXPECT_EQ(Check("Server Video Path", ";v.mp4"),
-              "--- Server Video Path --- \rMUST NOT START WITH A SEMI COLON (;)\r\r"
-              "PLEASE REMOVE THE SEMI COLON AND ENTER YOUR OWN VIDEO.\r\r"
-              "THIS IS THE ABSOLUTE PATH THAT'S LOCATED ON YOUR WEB SERVER\r\rREMOVE THE SEMI COLON (;) WHEN DONE");
-}
-
-TEST_F(LineChecks, SetupKeys)
+TEST_F(LineChecks, EachKeyHasItsFaultText)
 {
     s.store.state.ProjectMode = "FORM";
-    EXPECT_EQ(Check("FROM", ";My Web Page", 0), "");
-    EXPECT_EQ(Check("FROM", ";My Web Page", 10),
-              "--- FROM --- \rPLEASE CHANGE THE FROM TITLE TO YOUR OWN PERSONAL TITLE.\r\r"
-              "THE FROM TITLE IS THE EMAIL FROM TITLE THAT YOU RECEIVE WHEN THE USER COMPLETES THE FORM\r\r"
-              "REMOVE THE SEMI COLON (;) WHEN DONE");
-    EXPECT_EQ(Check("FROM", "a@b"), "FROM\rCANNOT HAVE A @ SYMBOL\r\rREMOVE THE a@b\r SYMBOL");
+    const struct
+    {
+        const char* key;
+        std::string value;
+        int commitMode;
+        std::string fault; // "" when the row passes
+    } rows[] = {
+        {"Align", "\r\n", 0, "ALIGN\rCANNOT BE LEFT BLANK"},
+        {"Title", "ab", 0, "Title\rcannot be left blank"},
+        {"Error Message", "", 0, "ERROR MESSAGE\rCANNOT BE LEFT BLANK"},
+        {"Error Message", "????", 0, "ERROR MESSAGE\rCANNOT HAVE A ????"},
+        {"GLOBAL TEXT COLOR", "", 0, ""},
+        {"loop", "infinite", 0, ""},
+        {"loop", "10", 0, "LOOP\rMUST BE SET TO 1,2,3,4,5,6,7,8,9 or Infinite"},
+        {"AutoStart", "sometimes", 0, "AUTOSTART\rMUST BE SET TO EITHER ON, OFF OR MOUSEOVER"},
+        {"Required", "yes", 0, ""},
+        {"Visible Download", "maybe", 0, "VISIBLE DOWNLOAD\rMUST BE SET TO EITHER YES OR NO"},
+        {"Bold", "of", 0, "BOLD\rMUST BE SET TO EITHER ON OR OFF"},
+        {"Picture Align", "middle", 0, "PICTURE ALIGN\rMUST BE SET TO LEFT, RIGHT OR CENTER"},
+        {"Title Shade Width", "40", 0,
+         "TITLE SHADE WIDTH\rMUST HAVE A % AFTER THE TITLE SHADE WIDTH\r"
+         "EXAMPLE: 40%"},
+        {"Title Shade Width", "40%", 0, ""},
+        {"Line Width", "wide%", 0, "LINE WIDTH\rMUST HAVE A NUMBER"},
+        {"Title Size", "3", 0, ""},
+        {"Video Height", "tall", 0, "VIDEO HEIGHT\rMUST HAVE A NUMBER"},
+        {"Link To", ";index.htm", 0,
+         "LINK TO\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB PAGE LINK.\r\r"
+         "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN THE USER CLICKS ON THE CANCEL BUTTON\r\r"
+         "Example: index.htm"},
+        {"Link To", "index", 0,
+         "LINK TO\rDOES NOT HAVE A VALID URL WEB LINK. MISSING THE PERIOD\r\rExample: index.htm"},
+        {"Link To", "&nbsp;a.htm", 0, "LINK TO\rCANNOT START WITH A SPACE\r\rPLEASE REMOVE THE SPACE"},
+        {"Thank You File", ";x.htm", 0,
+         "THANK YOU FILE\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB SERVER PATH\r\r"
+         "NOTE: THIS IS THE FILE THAT THE USER IS TAKEN TO AFTER THE USER DOWNLOADS THE FILES\r\r"
+         "Example: https://www.tarnquill.example/thankyou.htm\r\r"
+         "PLEASE REMOVE THE SEMI-COLON(;) AND ENTER YOUR OWN WEB SERVER PATH"},
+        {"Server Download", "myfiles", 0,
+         "SERVER DOWNLOAD\rDOES NOT HAVE A VALID URL WEB LINK. MISSING\r"
+         "www.\r\rExample: https://www.tarnquill.example/test"},
+        {"Server Video Path", ";v.mp4", 0,
+         "--- Server Video Path --- \rMUST NOT START WITH A SEMI COLON (;)\r\r"
+         "PLEASE REMOVE THE SEMI COLON AND ENTER YOUR OWN VIDEO.\r\r"
+         "THIS IS THE ABSOLUTE PATH THAT'S LOCATED ON YOUR WEB SERVER\r\rREMOVE THE SEMI COLON (;) WHEN DONE"},
+        {"FROM", ";My Web Page", 0, ""},
+        {"FROM", ";My Web Page", 10,
+         "--- FROM --- \rPLEASE CHANGE THE FROM TITLE TO YOUR OWN PERSONAL TITLE.\r\r"
+         "THE FROM TITLE IS THE EMAIL FROM TITLE THAT YOU RECEIVE WHEN THE USER COMPLETES THE FORM\r\r"
+         "REMOVE THE SEMI COLON (;) WHEN DONE"},
+        {"FROM", "a@b", 0, "FROM\rCANNOT HAVE A @ SYMBOL\r\rREMOVE THE a@b\r SYMBOL"},
+        {"Completed", "thankyou.htm", 10, ""},
+        {"Completed", "thanks.html", 0, ""},
+        {"Completed", "thanks.txt", 0, "COMPLETED\rMUST CONTAIN AN EXTENSION OF .HTM"},
+        {"TQL Output File", "c:formtql.htm", 0, "TQL OUTPUT FILE\rCANNOT CONTAIN A : IN THE FILENAME"},
+        {"Drive Folder Path", dir.path(), 0, ""},
+        {"Email #1", ";me@club.example", 0,
+         "EMAIL #1\rMUST NOT HAVE A SEMI COLON(;)\r\rNOTE: PLEASE CHANGE THE EMAIL ADDRESS AND REPLACE IT WITH "
+         "YOUR OWN PERSONAL EMAIL ADDRESS AND LEAVE OUT THE SEMI-COLON (;)\r\rExample: webmaster@tarnquill.example"},
+        {"Email #1", "none", 0, "NONE\rIS NOT A VALID EMAIL ADDRESS\r\rREPLACE NONE\r WITH A VALID EMAIL ADDRESS"},
+        {"Email #1", "me.club", 0, "ME.CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ SYMBOL"},
+        {"Email #1", "me@club", 0, "ME@CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD"},
+        {"Email #1", "me@club.example", 0, ""},
+        {"Email #2", "NONE", 0, ""},
+        {"Drive Folder Path", dir.path() + "/gone", 0,
+         tq::model::ToUpper(dir.path() + "/gone") +
+             "\rFOLDER DOES NOT EXIST\r\rCHANGE THE FOLDER PATH TO A VALID FOLDER\r\r"
+             "USE THE EDIT BUTTON TO BROWSE FOR YOUR FOLDER PATH"},
+    };
+    for (const auto& r : rows)
+        EXPECT_EQ(Check(r.key, r.value, r.commitMode), r.fault) << r.key << " = " << r.value;
     EXPECT_EQ(Check("Completed", ";thankyou.htm", 10).substr(0, 20), "--- COMPLETED --- \rP");
-    EXPECT_EQ(Check("Completed", "thankyou.htm", 10), "");
-    EXPECT_EQ(Check("Completed", "thanks.html"), "");
-    EXPECT_EQ(Check("Completed", "thanks.txt"), "COMPLETED\rMUST CONTAIN AN EXTENSION OF .HTM");
-    EXPECT_EQ(Check("TQL Output File", "c:formtql.htm"), "TQL OUTPUT FILE\rCANNOT CONTAIN A : IN THE FILENAME");
-    EXPECT_EQ(Check("Drive Folder Path", dir.path()), "");
-    EXPECT_EQ(Check("Drive Folder Path", dir.path() + "/gone"),
-              tq::model::ToUpper(dir.path() + "/gone") +
-                  "\rFOLDER DOES NOT EXIST\r\rCHANGE THE FOLDER PATH TO A VALID FOLDER\r\r"
-                  "USE THE EDIT BUTTON TO BROWSE FOR YOUR FOLDER PATH");
 }
 
-TEST_F(LineChecks, EmailAddresses)
+TEST_F(LineChecks, AFaultyDefaultEmailAddressBecomesNone)
 {
-    EXPECT_EQ(Check("Email #1", ";me@club.example"),
-              "EMAIL #1\rMUST NOT HAVE A SEMI COLON(;)\r\rNOTE: PLEASE CHANGE THE EMAIL ADDRESS AND REPLACE IT WITH "
-              "YOUR OWN PERSONAL EMAIL ADDRESS AND LEAVE OUT THE SEMI-COLON (;)\r\rExample: "
-              "webmaster@tarnquill.example");
-    EXPECT_EQ(Check("Email #1", "none"), "NONE\rIS NOT A VALID EMAIL ADDRESS\r\rREPLACE NONE\r WITH A VALID EMAIL "
-                                         "ADDRESS");
-    EXPECT_EQ(Check("Email #1", "me.club"), "ME.CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ SYMBOL");
-    EXPECT_EQ(Check("Email #1", "me@club"), "ME@CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD");
-    EXPECT_EQ(Check("Email #1", "me@club.example"), "");
-    EXPECT_EQ(Check("Email #2", "NONE"), "");
     EXPECT_EQ(Check("Default Email Address", "me@club"),
               "ME@CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD\r\r"
               "IF YOU DON'T WANT TO ADD ANOTHER EMAIL ADDRESS, THEN NONE MUST BE THE DEFAULT\r\r"
