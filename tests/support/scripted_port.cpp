@@ -10,6 +10,29 @@
 
 namespace tq::test {
 
+namespace {
+
+/// The front of `queue`, taken off; `none` when it is empty, and a failure of
+/// the running test when the test did not say that it may be (`unexpected` set).
+template <typename T> T Next(std::deque<T>& queue, T none, const std::string& unexpected)
+{
+    if (queue.empty()) {
+        if (!unexpected.empty())
+            ADD_FAILURE() << "unexpected " << unexpected;
+        return none;
+    }
+    T front = std::move(queue.front());
+    queue.pop_front();
+    return front;
+}
+
+std::string Named(std::string_view title, std::string_view text)
+{
+    return std::string(title) + ": " + std::string(text);
+}
+
+} // namespace
+
 void ScriptedPort::message(std::string_view text, std::string_view title, Icon icon)
 {
     shown.push_back({"message", std::string(text), std::string(title), icon, Buttons::Ok, 1});
@@ -18,39 +41,19 @@ void ScriptedPort::message(std::string_view text, std::string_view title, Icon i
 Answer ScriptedPort::ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton)
 {
     shown.push_back({"ask", std::string(text), std::string(title), icon, buttons, defaultButton});
-    if (answers.empty()) {
-        ADD_FAILURE() << "unexpected question: " << title << ": " << text;
-        return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
-    }
-    Answer a = answers.front();
-    answers.pop_front();
-    return a;
+    return Next(answers, buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel, "question: " + Named(title, text));
 }
 
-std::optional<std::string>
-ScriptedPort::inputBox(std::string_view prompt, std::string_view title, std::string_view initial)
+std::optional<std::string> ScriptedPort::inputBox(std::string_view prompt, std::string_view title, std::string_view)
 {
     shown.push_back({"input", std::string(prompt), std::string(title), Icon::None, Buttons::Ok, 0});
-    (void)initial;
-    if (inputs.empty()) {
-        ADD_FAILURE() << "unexpected input box: " << title << ": " << prompt;
-        return std::nullopt;
-    }
-    auto s = inputs.front();
-    inputs.pop_front();
-    return s;
+    return Next(inputs, std::optional<std::string>{}, "input box: " + Named(title, prompt));
 }
 
 static std::optional<std::string> TakeFile(ScriptedPort& p, const char* kind, std::string_view title)
 {
     p.shown.push_back({kind, "", std::string(title), Icon::None, Buttons::Ok, 0});
-    if (p.files.empty()) {
-        ADD_FAILURE() << "unexpected " << kind << " dialog: " << title;
-        return std::nullopt;
-    }
-    auto s = p.files.front();
-    p.files.pop_front();
-    return s;
+    return Next(p.files, std::optional<std::string>{}, std::string(kind) + " dialog: " + std::string(title));
 }
 
 std::optional<std::string> ScriptedPort::openFileDialog(const FileDialogOptions& options)
@@ -71,13 +74,7 @@ std::optional<std::string> ScriptedPort::browseForFolder(std::string_view title,
 std::optional<long> ScriptedPort::chooseColor(long, std::string_view title)
 {
     shown.push_back({"color", "", std::string(title), Icon::None, Buttons::Ok, 0});
-    if (colors.empty()) {
-        ADD_FAILURE() << "unexpected colour dialog";
-        return std::nullopt;
-    }
-    auto c = colors.front();
-    colors.pop_front();
-    return c;
+    return Next(colors, std::optional<long>{}, "colour dialog");
 }
 
 void ScriptedPort::openEditPage(int page, int row, std::string_view selectKey)
@@ -105,21 +102,13 @@ ScriptedPort::runProcess(std::string_view program, const std::vector<std::string
     std::vector<std::string> call{std::string(program)};
     call.insert(call.end(), args.begin(), args.end());
     ran.push_back(std::move(call));
-    if (processResults.empty())
-        return std::nullopt;
-    auto r = processResults.front();
-    processResults.pop_front();
-    return r;
+    return Next(processResults, std::optional<ProcessResult>{}, ""); // none: the program could not start
 }
 
 std::optional<std::string> ScriptedPort::httpGet(std::string_view url, int)
 {
     httpUrls.emplace_back(url);
-    if (httpBodies.empty())
-        return std::nullopt;
-    auto b = httpBodies.front();
-    httpBodies.pop_front();
-    return b;
+    return Next(httpBodies, std::optional<std::string>{}, "");
 }
 
 std::vector<Shown> ScriptedPort::messages() const

@@ -239,7 +239,6 @@ TEST(SplitLines, EmptyTextKeepsThePreviousLinesAndTheTextIsConsumed)
     text.clear();
     SplitLines(text, lines);
     EXPECT_EQ(lines.items, (std::vector<std::string>{"x", "y"}));
-
     EXPECT_THROW(SplitLines(test::Repeat("l\\n", 101)), InternalError);
 }
 
@@ -275,7 +274,6 @@ TEST(AttributeGroups, ShadeGroupOnlyWhenItStandsAtTheFront)
     EXPECT_EQ(err, 0);
     EXPECT_EQ(width, "w");
     EXPECT_EQ(text, "[Italics=off]");
-
     text = "[Shade Width=40%] [Choices=1% to 100%] [Shade Color=12632256] [Choices=Change the current color.] "
            "[Italics=off]";
     TakeShadeGroup(port, text, width, color, err);
@@ -283,12 +281,10 @@ TEST(AttributeGroups, ShadeGroupOnlyWhenItStandsAtTheFront)
     EXPECT_EQ(width, "40%");
     EXPECT_EQ(color, "C0C0C0");
     EXPECT_EQ(text, "[Italics=off]");
-
     text = "[Shade Width=500] [Choices=x] [Shade Color=255] [Choices=y]";
     TakeShadeGroup(port, text, width, color, err);
     EXPECT_EQ(width, "F40100");
     EXPECT_EQ(color, "FF0000");
-
     // the first failing read ends the group
     text = "[Shade Width=5%] [Info: x] [Shade Color=255] [Choices=y]";
     TakeShadeGroup(port, text, width, color, err);
@@ -310,7 +306,6 @@ TEST(AttributeGroups, LineGroupReadsStoredLines)
     EXPECT_EQ(align, "center");
     EXPECT_EQ(color, "0");
     EXPECT_EQ(text, "");
-
     text = "[Line Width=1] [Line Size=2]";
     TakeLineGroup(port, text, width, size, align, color, err);
     EXPECT_EQ(err, 1);

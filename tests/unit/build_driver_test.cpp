@@ -54,16 +54,12 @@ const std::string kPageOfSetupOnly = "<form action=\"formtql.php\" method=\"post
 
 } // namespace
 
-TEST(OutputPaths, HtmlPathGetsASeparatorUnlessTheFolderEndsInOne)
+TEST(OutputPaths, BothFilesFollowTheFolderAndTheOutputName)
 {
     using tq::build::ComposeHtmlPath;
     EXPECT_EQ(ComposeHtmlPath("/srv/web", "formtql.htm"), "/srv/web/formtql.htm");
     EXPECT_EQ(ComposeHtmlPath("/srv/web/", "formtql.htm"), "/srv/web/formtql.htm");
     EXPECT_EQ(ComposeHtmlPath("c:\\users\\", "formtql.htm"), "c:\\users\\formtql.htm");
-}
-
-TEST(OutputPaths, PhpPathAlwaysGetsASeparatorAndTheNameCutBehindTheFirstHtm)
-{
     using tq::build::ComposeFormAction;
     using tq::build::ComposePhpPath;
     EXPECT_EQ(ComposeFormAction("formtql.HTM"), "formtql.php");
@@ -75,10 +71,7 @@ TEST(OutputPaths, PhpPathAlwaysGetsASeparatorAndTheNameCutBehindTheFirstHtm)
     EXPECT_EQ(ComposePhpPath("/srv/web", "formtql.HTM"), "/srv/web/formtql.php");
     EXPECT_EQ(ComposePhpPath("/srv/web/", "formtql.htm"), "/srv/web//formtql.php");
     EXPECT_EQ(ComposePhpPath("/srv/web", "index.asp"), "/srv/web/php");
-}
-
-TEST(OutputPaths, TheFolderOfTheFolderTestIsReadSilentlyFromTheSetupText)
-{
+    // the folder of the folder test is read silently from the SetupEntry
     using tq::build::PeekDriveFolderPath;
     EXPECT_EQ(PeekDriveFolderPath("[Drive Folder Path=/srv/web] [Info: x]"), "/srv/web");
     EXPECT_EQ(PeekDriveFolderPath("[Background Color=1]\r\n[DRIVE FOLDER PATH=/a b/]\r\n"), "/a b/");
@@ -116,7 +109,7 @@ TEST(BuildDriver, AMissingWebFolderGivesPathErrorAndOpensTheSetupEntry)
     EXPECT_FALSE(p.s->build.inProgress);
 }
 
-TEST(BuildDriver, FirstBuildInAnEmptyFolderAsksNothing)
+TEST(BuildDriver, FirstBuildInAnEmptyFolderAsksNothingNorDoesOneAfterTheReminder)
 {
     Project p;
     ScriptedPort port;
@@ -130,6 +123,19 @@ TEST(BuildDriver, FirstBuildInAnEmptyFolderAsksNothing)
     EXPECT_TRUE(std::filesystem::exists(p.php()));
     EXPECT_FALSE(std::filesystem::exists(p.web.file("temp.ttt")));
     EXPECT_EQ(port.busyCalls.back(), false);
+    // once the reminder counter passed one, files are replaced silently; a real
+    // build clears the preview flags and writes no preview
+    WriteFileBytes(p.html(), "old page");
+    WriteFileBytes(p.php(), "old script");
+    p.s->build.reminderCounter = 2;
+    p.s->build.entryPreview = true;
+    p.s->build.editPreview = true;
+    BuildOutput(*p.s, port, 1);
+    EXPECT_TRUE(port.shown.empty());
+    EXPECT_FALSE(p.s->build.entryPreview);
+    EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
+    EXPECT_NE(ReadFileBytes(p.php()), "old script");
+    EXPECT_FALSE(std::filesystem::exists(p.data.file("Preview.htm")));
 }
 
 TEST(BuildDriver, ExistingFilesAreReplacedAfterNoToTheFolderAndYesToTheDuplicate)
@@ -207,18 +213,6 @@ TEST(BuildDriver, AMissingPageBesideAnExistingScriptIsCreatedAndBothQuestionsCom
     EXPECT_EQ(ReadFileBytes(p.html()), "");
 }
 
-TEST(BuildDriver, AfterTheReminderCounterPassedOneFilesAreReplacedSilently)
-{
-    Project p;
-    WriteFileBytes(p.html(), "old page");
-    WriteFileBytes(p.php(), "old script");
-    p.s->build.reminderCounter = 2;
-    ScriptedPort port;
-    BuildOutput(*p.s, port, 1);
-    EXPECT_TRUE(port.shown.empty());
-    EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
-}
-
 TEST(BuildDriver, PreviewWritesToTheDataFolderAndLeavesTheWebFolderAlone)
 {
     Project p;
@@ -251,18 +245,6 @@ TEST(BuildDriver, WholePageCommandWrapsThePageAndClearsItsFlagAfterwards)
     EXPECT_EQ(p.s->build.buildError, 0);
     EXPECT_FALSE(p.s->build.wholePage);
     EXPECT_EQ(ReadFileBytes(p.html()), "<html>\r\n<body>\r\n\r\n" + kPageOfSetupOnly + "</body>\r\n</html>\r\n");
-}
-
-TEST(BuildDriver, ARealBuildClearsThePreviewFlags)
-{
-    Project p;
-    p.s->build.entryPreview = true;
-    p.s->build.editPreview = true;
-    ScriptedPort port;
-    BuildOutput(*p.s, port, 1);
-    EXPECT_FALSE(p.s->build.entryPreview);
-    EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
-    EXPECT_FALSE(std::filesystem::exists(p.data.file("Preview.htm")));
 }
 
 namespace {
@@ -357,28 +339,30 @@ TEST(WholeBuild, AFaultyEntryStopsBeforeThePageCloseAndTakesTheUserToIt)
     EXPECT_FALSE(std::filesystem::exists(p.php()));
 }
 
-TEST(WholeBuild, AnUnknownTypeGetsItsReport)
+TEST(WholeBuild, AnUnknownTypeOrABoundFaultStopsWithItsReport)
 {
-    Project p;
-    p.add(1, "Fancy Widget", "[Title=x] [Info: t]\r\n");
-    ScriptedPort port;
-    BuildOutput(*p.s, port, 1);
-    EXPECT_EQ(p.s->build.buildError, 1);
-    ASSERT_FALSE(port.messages().empty());
-    EXPECT_EQ(port.messages().back().text,
-              "FANCY WIDGET is not a valid input type.\r\rPlease remove the FANCY WIDGET from the list");
-}
-
-TEST(WholeBuild, ABoundFaultIsCaughtAndToldAsAnInternalError)
-{
-    Project p;
-    p.add(1, "Blank Line", "[New Line=40000] [Info: n]\r\n");
-    ScriptedPort port;
-    BuildOutput(*p.s, port, 1);
-    EXPECT_EQ(p.s->build.buildError, 1);
-    EXPECT_EQ(port.last().title, "INTERNAL ERROR");
-    EXPECT_EQ(port.last().icon, Icon::Critical);
-    EXPECT_FALSE(p.s->build.inProgress);
-    EXPECT_EQ(port.busyCalls.back(), false);
-    EXPECT_FALSE(std::filesystem::exists(p.php()));
+    const struct
+    {
+        const char* type;
+        const char* text;
+        const char* title;
+        std::string said; // "": not compared
+    } rows[] = {{"Fancy Widget", "[Title=x] [Info: t]\r\n", "ERROR",
+                 "FANCY WIDGET is not a valid input type.\r\rPlease remove the FANCY WIDGET from the list"},
+                {"Blank Line", "[New Line=40000] [Info: n]\r\n", "INTERNAL ERROR", ""}};
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.type);
+        Project p;
+        p.add(1, r.type, r.text);
+        ScriptedPort port;
+        BuildOutput(*p.s, port, 1);
+        EXPECT_EQ(p.s->build.buildError, 1);
+        ASSERT_FALSE(port.messages().empty());
+        EXPECT_EQ(port.messages().back().title, r.title);
+        EXPECT_EQ(port.messages().back().icon, Icon::Critical);
+        EXPECT_EQ(r.said.empty() ? r.said : port.messages().back().text, r.said);
+        EXPECT_FALSE(p.s->build.inProgress);
+        EXPECT_EQ(port.busyCalls.back(), false);
+        EXPECT_FALSE(std::filesystem::exists(p.php()));
+    }
 }

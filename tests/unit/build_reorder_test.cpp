@@ -56,7 +56,6 @@ TEST(BuildReorder, RowsAreBuiltInReferenceOrderAndCompacted)
     // no word of the reorder during a build
     for (const auto& m : f.port.shown)
         EXPECT_TRUE(m.title != "NO CHANGES NEEDED" && m.title != "ORDER UPDATED") << m.title;
-
     EXPECT_EQ(rows[1].InputTypeName, "Email");
     EXPECT_EQ(rows[2].InputTypeName, "Name");
     // the rows close up behind the moved Title, which lands last
@@ -66,7 +65,6 @@ TEST(BuildReorder, RowsAreBuiltInReferenceOrderAndCompacted)
     EXPECT_EQ(rows[last].InputTypeName, "Title 1 Single Line");
     for (int r = 0; r < 25; ++r)
         EXPECT_EQ(rows[r].ReferenceNumber, std::to_string(r + 1));
-
     // the page follows the new order, and the field names the new slots
     const std::string page = f.html();
     const size_t email = page.find("name=\"email3\"");

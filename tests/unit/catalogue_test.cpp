@@ -38,7 +38,7 @@ std::string ValueOf(const std::string& text, const std::string& key)
 }
 } // namespace
 
-TEST(Catalogue, IndexSeventeenFollowsTheMode)
+TEST(Catalogue, IndexesFollowTheModeAndStayInsideTheList)
 {
     Built form("FORM");
     Built survey("SURVEY");
@@ -46,6 +46,12 @@ TEST(Catalogue, IndexSeventeenFollowsTheMode)
     EXPECT_EQ(CatalogueName(survey.catalogue, 17), "Password");
     EXPECT_EQ(FindCatalogueIndex(form.catalogue, "name"), 17);
     EXPECT_EQ(FindCatalogueIndex(survey.catalogue, "NAME"), 16);
+    EXPECT_THROW(CatalogueName(form.catalogue, 33), InternalError);
+    EXPECT_THROW(CatalogueTemplate(form.catalogue, -1), InternalError);
+    EXPECT_NO_THROW(CatalogueTemplate(form.catalogue, 32));
+    Built none(""); // an empty mode is read as FORM
+    EXPECT_EQ(none.state.ProjectMode, "FORM");
+    EXPECT_EQ(none.catalogue.CatalogueCount, 32);
 }
 
 TEST(Catalogue, SetupAndFollowupsStandInNoList)
@@ -63,33 +69,16 @@ TEST(Catalogue, SetupAndFollowupsStandInNoList)
     }
 }
 
-TEST(Catalogue, IndexesOutsideTheListAreInternalErrors)
-{
-    Built b("FORM");
-    EXPECT_THROW(CatalogueName(b.catalogue, 33), InternalError);
-    EXPECT_THROW(CatalogueTemplate(b.catalogue, -1), InternalError);
-    EXPECT_NO_THROW(CatalogueTemplate(b.catalogue, 32));
-}
-
-TEST(Catalogue, EmptyModeIsReadAsForm)
-{
-    Built b("");
-    EXPECT_EQ(b.state.ProjectMode, "FORM");
-    EXPECT_EQ(b.catalogue.CatalogueCount, 32);
-}
-
 TEST(Catalogue, TextColourIsWhiteOnlyInAFramedForm)
 {
     Built framed("FORM");
     EXPECT_EQ(ValueOf(CatalogueTemplate(framed.catalogue, 17), "[Text Color="), "16777215");
     EXPECT_EQ(ValueOf(framed.catalogue.SetupTemplate, "[Include Frame With Form="), "YES");
-
     Built unframed("FORM");
     unframed.settings.FrameOff = 1;
     BuildCatalogue(unframed.catalogue, unframed.settings, unframed.state);
     EXPECT_EQ(ValueOf(CatalogueTemplate(unframed.catalogue, 17), "[Text Color="), "0");
     EXPECT_EQ(ValueOf(unframed.catalogue.SetupTemplate, "[Include Frame With Form="), "NO");
-
     Built survey("SURVEY");
     EXPECT_EQ(survey.settings.TextColor, "0");
     EXPECT_EQ(survey.settings.FrameOff, 1);
@@ -104,7 +93,6 @@ TEST(Catalogue, SwitchesOfTheSetupTextFollowTheFlags)
     BuildCatalogue(b.catalogue, b.settings, b.state);
     EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Number Each Question="), "NO");
     EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Show Tool Tips="), "NO");
-
     EntryStore store;
     store.MaxEntries = 0;
     InitCatalogueAtStartup(store, b.settings, b.catalogue);
@@ -141,7 +129,6 @@ TEST(Catalogue, NewProjectPendingResetsTheSettingsFirst)
     EXPECT_EQ(b.settings.FromName, ";My Web Page");
     EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Submit Name="), "Submit Form");
     EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[SUBMIT ALIGN="), "CENTER");
-
     b.state.NewProjectPending = false;
     b.settings.FromName = "Mine";
     BuildCatalogue(b.catalogue, b.settings, b.state);

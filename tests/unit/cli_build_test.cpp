@@ -132,7 +132,6 @@ TEST(CliPublishCheck, ACellPhoneNumberEntryIsNamedAndTheBuildStands)
         << r.err;
     EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
     EXPECT_NE(ReadFileBytes(web.file("formtql.php")).find("$cell 3 = $_POST[\"cell 3\"];"), std::string::npos);
-
     // the same Entry as a plain phone number parses: no warning
     WriteFileBytes(web.file("p.fms"), PhoneProject(web.path(), "Phone Number"));
     const CliRun ok = Cli({"build", web.file("p.fms"), "--data-folder", data.path(), "--replace"});

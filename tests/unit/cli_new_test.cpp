@@ -37,7 +37,7 @@ int ExitCode(int status)
 
 } // namespace
 
-TEST(CliNew, AFormHoldsTheSetupEntryAndTheDefaultRowsOfTheMode)
+TEST(CliNew, AFormOrASurveyHoldsTheSetupEntryAndTheDefaultRowsOfTheMode)
 {
     TempDir dir;
     const CliRun r = Cli({"new", "form", dir.file("x.fms")});
@@ -51,17 +51,12 @@ TEST(CliNew, AFormHoldsTheSetupEntryAndTheDefaultRowsOfTheMode)
     EXPECT_NE(file.find("[Completed=;thankyou.htm]\r\n"), std::string::npos);
     EXPECT_EQ(file.rfind("********************************\r\nSetup\r\n********************************\r\n\r\n", 0),
               0u);
-}
-
-TEST(CliNew, ASurveyHoldsTheSurveyRows)
-{
-    TempDir dir;
     ASSERT_EQ(Cli({"new", "Survey", dir.file("x.srv")}).code, 0);
-    const std::string file = ReadFileBytes(dir.file("x.srv"));
-    EXPECT_EQ(TypesOf(file), (std::vector<std::string>{"Setup", "Title Header", "Survey Intro", "Title 1 Single Line",
-                                                       "Table Choices Required", "Table Text Required",
-                                                       "Comments Not Required", "Security Code"}));
-    EXPECT_NE(file.find("[TQL Output File=surveytql.htm]"), std::string::npos);
+    const std::string survey = ReadFileBytes(dir.file("x.srv"));
+    EXPECT_EQ(TypesOf(survey), (std::vector<std::string>{"Setup", "Title Header", "Survey Intro", "Title 1 Single Line",
+                                                         "Table Choices Required", "Table Text Required",
+                                                         "Comments Not Required", "Security Code"}));
+    EXPECT_NE(survey.find("[TQL Output File=surveytql.htm]"), std::string::npos);
 }
 
 TEST(CliNew, ANewProjectStopsTheBuildWithTheProgramsMessage)
@@ -73,7 +68,6 @@ TEST(CliNew, ANewProjectStopsTheBuildWithTheProgramsMessage)
     EXPECT_EQ(sample.code, 1);
     EXPECT_EQ(sample.out, "");
     EXPECT_EQ(sample.err.rfind("PATH ERROR: The path to the current web folder does not exist\n", 0), 0u) << sample.err;
-
     // into a folder that exists, the semi-colon flags of the SetupEntry stop it
     TempDir web;
     const CliRun flags = Cli({"build", dir.file("x.fms"), "--data-folder", data.path(), "--web-folder", web.path()});

@@ -51,7 +51,6 @@ TEST(CliServe, UsageAndMissingPhp)
     std::ostringstream out, err;
     EXPECT_EQ(cli::CmdServe({}, out, err), 2);
     EXPECT_EQ(cli::CmdServe({"a.fms", "--port", "0"}, out, err), 2);
-
     // with no php on the path the command says how to get it
     const std::string cmd = "PATH=/nonexistent '" + std::string(TQ_CLI_BINARY) + "' serve x.fms 2>&1";
     FILE* p = ::popen(cmd.c_str(), "r");

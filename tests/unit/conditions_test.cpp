@@ -87,7 +87,7 @@ TEST(ConditionWriters, AnEmptyTitleWritesOnlyTheShadeClose)
     EXPECT_EQ(f.s.build.messageLineCount, 0);
 }
 
-TEST(AttributeConversion, TextToAttributeJoinsLinesAndRewritesBlanks)
+TEST(AttributeConversion, TextAndAttributeConvertBothWays)
 {
     tq::test::TempDir dir;
     EXPECT_EQ(html::TextToAttribute(dir.path(), "Line one\r\nLine  two\r\n\r\n", false), "Line one\\nLine&nbsp;two");
@@ -97,11 +97,6 @@ TEST(AttributeConversion, TextToAttributeJoinsLinesAndRewritesBlanks)
     EXPECT_EQ(html::TextToAttribute(dir.path(), "NoNe", false), "NoNe");
     EXPECT_EQ(html::TextToAttribute(dir.path(), "one\ntwo  x", false), "one\\ntwo&nbsp;x");
     EXPECT_TRUE(std::filesystem::exists(dir.file("junk.txt")));
-}
-
-TEST(AttributeConversion, AttributeToTextIsTheReverse)
-{
-    tq::test::TempDir dir;
     EXPECT_EQ(html::AttributeToText(dir.path(), "Line one\\nLine&nbsp;two\\Nthree"), "Line one\r\nLine  two\r\nthree");
     EXPECT_EQ(html::AttributeToText(dir.path(), "none"), "none");
     EXPECT_EQ(html::AttributeToText(dir.path(), ""), "");

@@ -37,13 +37,11 @@ TEST_F(Defaults, SaveWritesTheRawPassAndLeavesStatusAndListsAlone)
     EXPECT_EQ(s.run.status.fileLabel, "NOTHING IS CURRENTLY LOADED");
     EXPECT_EQ(test::ReadFileBytes(dir.file("FormHistory.txt")), "");
     EXPECT_EQ(s.run.busyMark, store::kIdle);
-
     // the reminder can stop it before the dialog
     store::DefaultsHooks hooks;
     hooks.setupReminder = [](Session&, UiPort&) { return 1; };
     EXPECT_FALSE(store::SaveDefaults(s, port, true, hooks));
     EXPECT_EQ(s.run.busyMark, store::kIdle);
-
     port.file(path);
     port.answer(Answer::No);
     EXPECT_FALSE(store::SaveDefaults(s, port, false));
@@ -55,7 +53,6 @@ TEST_F(Defaults, RestoreOfARawFileComesBackAsOneRow)
     const std::string path = dir.file("default.txt");
     port.file(path);
     ASSERT_TRUE(store::SaveDefaults(s, port, false));
-
     Session t;
     t.DataFolder = dir.path();
     t.run.GlobalFont = "verdana";
@@ -84,13 +81,11 @@ TEST_F(Defaults, EmptyListGivesAnEmptyFileAndCancelChangesNothing)
     port.file(path);
     ASSERT_TRUE(store::SaveDefaults(empty, port, false));
     EXPECT_EQ(test::ReadFileBytes(path), "");
-
     s.run.GlobalFont = "verdana";
     port.file(path);
     ASSERT_TRUE(store::RestoreDefaults(s, port));
     EXPECT_EQ(s.store.pages[0][0].InputTypeName, "Setup"); // rows as they were
     EXPECT_EQ(s.run.GlobalFont, "arial");
-
     s.run.GlobalFont = "verdana";
     port.clear();
     port.file(std::nullopt);

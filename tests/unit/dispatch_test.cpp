@@ -115,7 +115,6 @@ TEST_P(BothModes, TitleShadeWritesEachTitleLineAndBreaksUnlessCentred)
     v.Italics = "on";
     v.Bold = "off";
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteTitleShade(*s); }), Golden("title_shade_left.htm"));
-
     v.Title = "Welcome";
     v.TitleShadeWidth = "60%";
     v.ALIGN = "CENTER";
@@ -133,6 +132,10 @@ TEST_P(BothModes, BlankLineWritesOneBreakPerCount)
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), Golden("blank_line_3.htm"));
     s->build.values.NewLine = "0";
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), "");
+    s->build.values.NewLine = "-2";
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), "");
+    s->build.values.NewLine = "40000"; // past the format's counter
+    EXPECT_THROW(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), tq::model::InternalError);
 }
 
 TEST_P(BothModes, AnUnknownVideoSuffixIsToldAndWritesNothingWhileNoneIsSilent)
@@ -145,7 +148,6 @@ TEST_P(BothModes, AnUnknownVideoSuffixIsToldAndWritesNothingWhileNoneIsSilent)
     EXPECT_TRUE(Said(port.last(), "https://www.tarnquill.example/clip.mov format is not supported", "ERROR",
                      tq::Icon::Critical));
     EXPECT_EQ(s->build.buildError, 0);
-
     port.clear();
     SetVideo(s->build.values, "none");
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), "");
@@ -187,7 +189,7 @@ TEST(VideoWriter, SurveySuffixTestsAreIndependentAndAnMp4LeavesTheWrapperOpen)
     EXPECT_TRUE(port.shown.empty());
 }
 
-TEST(PictureWriter, FormBreaksDependOnTheLastSlotOfThePreviousPhpPass)
+TEST(PictureWriter, FormBreaksDependOnTheLastPhpSlotSurveysHaveNone)
 {
     auto s = MakeSession("FORM");
     SetPicture(s->build.values);
@@ -197,24 +199,11 @@ TEST(PictureWriter, FormBreaksDependOnTheLastSlotOfThePreviousPhpPass)
     EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_form_first_build.htm"));
     s->build.lastPhpSlot = 3;
     EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_survey.htm"));
-}
-
-TEST(PictureWriter, SurveyHasNoBreaksAndNoneWritesNothing)
-{
-    auto s = MakeSession("SURVEY");
-    SetPicture(s->build.values);
-    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_survey.htm"));
-    s->build.values.ServerPath = "NONE";
-    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), "");
-}
-
-TEST(BlankLineWriter, ACountPastTheFormatsCounterIsAnInternalError)
-{
-    auto s = MakeSession("FORM");
-    s->build.values.NewLine = "40000";
-    EXPECT_THROW(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), tq::model::InternalError);
-    s->build.values.NewLine = "-2";
-    EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), "");
+    auto survey = MakeSession("SURVEY");
+    SetPicture(survey->build.values);
+    EXPECT_EQ(Capture(*survey, [&] { tq::html::WritePicture(*survey); }), Golden("picture_survey.htm"));
+    survey->build.values.ServerPath = "NONE";
+    EXPECT_EQ(Capture(*survey, [&] { tq::html::WritePicture(*survey); }), "");
 }
 
 // Through the dispatcher: the attributes are read from the Entry's text first.
@@ -248,15 +237,10 @@ TEST(DispatchEntry, HorizontalLineIsReadAndWrittenInTheHtmlPassOnly)
     EXPECT_EQ(run(1), Golden("horizontal_line.htm"));
     EXPECT_EQ(run(2), "");
     EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(DispatchEntry, AGlobalAlignmentReachesTheLine)
-{
-    auto s = ReadySession("FORM");
-    s->build.setupValues.GlobalAlign = "right";
-    ScriptedPort port;
+    auto right = ReadySession("FORM"); // a global alignment reaches the line
+    right->build.setupValues.GlobalAlign = "right";
     const std::string out =
-        Capture(*s, [&] { tq::html::DispatchEntry(*s, port, 1, "horiz3", "horizontal line", kLineText); });
+        Capture(*right, [&] { tq::html::DispatchEntry(*right, port, 1, "horiz3", "horizontal line", kLineText); });
     EXPECT_NE(out.find(" align = \"right\" Width = \"50%\""), std::string::npos);
 }
 
@@ -269,23 +253,18 @@ TEST(DispatchEntry, AVideosAlignFillsOnlyTheVideoAlignmentAndTheWrapperKeepsTheS
               Golden("video_survey_avi.htm"));
 }
 
-TEST(DispatchEntry, AnUnknownTypeIsLeftForTheReportWithoutAWord)
+TEST(DispatchEntry, AnUnknownTypeOrAFaultyEntryWritesNothing)
 {
     auto s = ReadySession("FORM");
     ScriptedPort port;
     EXPECT_EQ(Capture(*s, [&] { tq::html::DispatchEntry(*s, port, 1, "fancy5", "Fancy Widget", "[Title=x]"); }), "");
     EXPECT_EQ(s->build.buildError, 5);
     EXPECT_TRUE(port.shown.empty());
-}
-
-TEST(DispatchEntry, AFaultOfTheExtractionWritesNothing)
-{
-    auto s = ReadySession("FORM");
-    ScriptedPort port;
+    auto faulty = ReadySession("FORM");
     const std::string text = "[Server Picture Path=c:\\pics\\a.gif] [Info: p]\r\n[Align=left] [Choices=l]\r\n"
                              "[Picture Width=20] [Info: w]\r\n[Picture Height=10] [Info: h]\r\n";
-    EXPECT_EQ(Capture(*s, [&] { tq::html::DispatchEntry(*s, port, 1, "pictu3", "Picture", text); }), "");
-    EXPECT_EQ(s->build.buildError, 1);
+    EXPECT_EQ(Capture(*faulty, [&] { tq::html::DispatchEntry(*faulty, port, 1, "pictu3", "Picture", text); }), "");
+    EXPECT_EQ(faulty->build.buildError, 1);
     ASSERT_FALSE(port.shown.empty());
     EXPECT_EQ(port.last().title, "ERROR");
 }

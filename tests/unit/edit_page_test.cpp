@@ -123,10 +123,6 @@ TEST(EditWindow, ValueAndWindowTextConvertBothWays)
     EXPECT_EQ(WindowToValue("Title", "ab"), "ab");
     EXPECT_EQ(WindowToValue("Title", "ab\r\n"), "ab");
     EXPECT_EQ(WindowToValue("Title", ""), "");
-}
-
-TEST(EditWindow, BlanksBecomeNbspExceptForPlainKeys)
-{
     EXPECT_EQ(WindowToValue("Title", "a  b\tc"), "a&nbsp;b&nbsp;c");
     EXPECT_EQ(ValueToWindow("Title", "a&nbsp;b"), "a  b");
     EXPECT_EQ(WindowToValue("Error Message", "a  b"), "a  b");
@@ -159,7 +155,6 @@ TEST(EditPageSetup, OpenMarksTheRowAndHidesTheFrameRowsByMode)
     const int frame = f.rowOf(st, "Include Frame With Form");
     for (const auto& field : st.fields)
         EXPECT_TRUE(field.visible);
-
     // FORM: NO hides the three frame rows and switches the frame off
     SetPullDownValue(*f.s, f.port, st, frame, "NO");
     EXPECT_EQ(f.s->settings.FrameOff, 1);
@@ -171,7 +166,6 @@ TEST(EditPageSetup, OpenMarksTheRowAndHidesTheFrameRowsByMode)
     EXPECT_TRUE(st.fields[static_cast<size_t>(frame + 3)].visible);
     SetPullDownValue(*f.s, f.port, st, f.rowOf(st, "Show Tool Tips"), "NO");
     EXPECT_EQ(f.s->settings.ShowToolTips, 0);
-
     // SURVEY: the frame row and all after it stay hidden; a change has no effect
     f.s->store.state.ProjectMode = "SURVEY";
     st = OpenEditPage(*f.s, f.port, 1, 0);
@@ -198,14 +192,12 @@ TEST(EditPageColors, ChangeColorUpdatesTheDefaultsAndRightClickSetsNone)
     f.port.color(std::nullopt);
     EXPECT_FALSE(ChangeColor(*f.s, f.port, st, frameColor));
     EXPECT_EQ(st.fields[static_cast<size_t>(frameColor)].Value, "255");
-
     const int global = f.rowOf(st, "GLOBAL TEXT COLOR");
     EXPECT_EQ(FieldColor(st.fields[static_cast<size_t>(global)]), 16777215);
     ClearGlobalTextColor(*f.s, f.port, st, global);
     EXPECT_EQ(f.port.last().title, "SET");
     EXPECT_EQ(f.port.last().text.substr(0, 46), "The Global Text Color is already set to NONE\r\r");
     EXPECT_NE(f.port.last().text.find("in your entire FORM will default"), std::string::npos);
-
     f.port.color(65280);
     ChangeColor(*f.s, f.port, st, global);
     EXPECT_EQ(f.s->settings.GlobalTextColor, "65280");
@@ -232,12 +224,10 @@ TEST(EditPageTextRows, EditCommandBranches)
     f.port.file(std::nullopt);
     EditTextField(*f.s, f.port, st, folder);
     EXPECT_EQ(st.fields[static_cast<size_t>(folder)].Value, "/srv/site");
-
     const int completed = f.rowOf(st, "Completed");
     f.port.file(std::string("/srv/site/thanks.htm"));
     EXPECT_EQ(EditTextField(*f.s, f.port, st, completed), EditAction::Done);
     EXPECT_EQ(st.fields[static_cast<size_t>(completed)].Value, "thanks.htm");
-
     EditField image;
     image.ItemText = "[Background image path=;x.gif]";
     image.Key = "Background image path";
@@ -252,7 +242,7 @@ TEST(EditPageTextRows, EditCommandBranches)
     EXPECT_TRUE(f.port.shown.empty());
 }
 
-TEST(EditPageCommit, AFailingCheckKeepsThePageOpenAndTheTextAsItWas)
+TEST(EditPageCommit, AFailingCheckKeepsThePageOpenExitStoresTheRowsAndMarksItGreen)
 {
     Fixture f;
     EditState st = OpenEditPage(*f.s, f.port, 1, 1);
@@ -265,12 +255,7 @@ TEST(EditPageCommit, AFailingCheckKeepsThePageOpenAndTheTextAsItWas)
     EXPECT_TRUE(st.fields[static_cast<size_t>(shade)].failed);
     EXPECT_EQ(f.s->store.pages[0][1].AttributeText, kNameText);
     EXPECT_EQ(f.s->store.state.commitMode, 0);
-}
-
-TEST(EditPageCommit, ExitStoresTheRowsAsTheyStandAndMarksTheRowGreen)
-{
-    Fixture f;
-    EditState st = OpenEditPage(*f.s, f.port, 1, 1);
+    st = OpenEditPage(*f.s, f.port, 1, 1);
     st.fields[0].Value = "  Your name please ";
     ASSERT_TRUE(ExitEditPage(*f.s, f.port, st));
     std::string expected = kNameText;
@@ -319,7 +304,6 @@ TEST(EditPageAbort, ErrorsAskBeforeLeavingAndTheTextStays)
     EXPECT_TRUE(AbortEditPage(*f.s, f.port, st));
     EXPECT_EQ(f.s->store.pages[0][1].AttributeText, kNameText);
     EXPECT_EQ(f.port.views.back(), View::Page1);
-
     // without errors the page is left at once
     st = OpenEditPage(*f.s, f.port, 1, 1);
     st.fields[0].Value = "changed";

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tq::test {
 
@@ -31,6 +32,14 @@ struct EditFixture
 
     model::Entry& at(int page, int row) { return model::GetEntry(store, page, row); }
     const std::string& name(int page, int row) { return at(page, row).InputTypeName; }
+    /// The names of rows `first`..`last` of a Page.
+    std::vector<std::string> names(int page, int first, int last)
+    {
+        std::vector<std::string> out;
+        for (int r = first; r <= last; ++r)
+            out.push_back(name(page, r));
+        return out;
+    }
     int index(std::string_view typeName) const { return model::FindCatalogueIndex(catalogue, typeName); }
 
     /// Fills a row by hand with a name and a short text.

@@ -7,6 +7,7 @@
 using namespace tq;
 using namespace tq::model;
 using test::EditFixture;
+using V = std::vector<std::string>;
 
 // --- AddToFirstFreeRow ------------------------------------------------------
 
@@ -29,8 +30,7 @@ TEST(AddToFirstFreeRow, APairBringsItsFollowupOfTheActiveMode)
 {
     EditFixture f("SURVEY");
     AddToFirstFreeRow(f.ctx, 1, f.index("Condition With Dropdown"));
-    EXPECT_EQ(f.name(1, 0), "Condition With Dropdown");
-    EXPECT_EQ(f.name(1, 1), "Followup With Dropdown");
+    EXPECT_EQ(f.names(1, 0, 1), (V{"Condition With Dropdown", "Followup With Dropdown"}));
     EXPECT_NE(f.at(1, 1).AttributeText.find("[Align=center]"), std::string::npos);
 }
 
@@ -44,12 +44,11 @@ TEST(AddToFirstFreeRow, APairNeverStartsOnRow24AndMovesToTheNextPage)
     EXPECT_EQ(f.name(1, 24), "");
     EXPECT_EQ(f.name(2, 1), "Followup With Comment");
     EXPECT_EQ(f.port.views, (std::vector<View>{View::Page2}));
-
     // a single-row type still takes row 24
     EXPECT_EQ(*AddToFirstFreeRow(f.ctx, 1, f.index("Name")), (RowRef{1, 24}));
 }
 
-TEST(AddToFirstFreeRow, FullPagesRunOnToPage4ThenEntriesAreFull)
+TEST(AddToFirstFreeRow, FullPagesRunOnToPage4ThenEntriesAreFullAndNothingSelectedIsSaid)
 {
     EditFixture f;
     for (int p = 1; p <= 4; ++p)
@@ -57,15 +56,9 @@ TEST(AddToFirstFreeRow, FullPagesRunOnToPage4ThenEntriesAreFull)
     f.at(4, 24).InputTypeName.clear();
     EXPECT_EQ(*AddToFirstFreeRow(f.ctx, 2, f.index("Name")), (RowRef{4, 24}));
     EXPECT_TRUE(f.port.shown.empty());
-
     EXPECT_FALSE(AddToFirstFreeRow(f.ctx, 1, f.index("Name")).has_value());
     ASSERT_EQ(f.port.messages().size(), 1u);
     EXPECT_TRUE(Said(f.port.last(), "Entries are full", "full", Icon::Exclamation));
-}
-
-TEST(AddToFirstFreeRow, NothingSelectedIsSaid)
-{
-    EditFixture f;
     EXPECT_FALSE(AddToFirstFreeRow(f.ctx, 1, -1).has_value());
     EXPECT_EQ(f.port.last().text, "nothing selected");
 }
@@ -89,9 +82,7 @@ TEST(InsertAtRow, ANewTypeOnAFilledRowPushesThePageDownAndRow24FallsOff)
     for (int r = 0; r <= 24; ++r)
         f.put(1, r, "T" + std::to_string(r));
     InsertAtRow(f.ctx, 1, 3, f.index("Email"));
-    EXPECT_EQ(f.name(1, 2), "T2");
-    EXPECT_EQ(f.name(1, 3), "Email");
-    EXPECT_EQ(f.name(1, 4), "T3");
+    EXPECT_EQ(f.names(1, 2, 4), (V{"T2", "Email", "T3"}));
     EXPECT_EQ(f.name(1, 24), "T23");
     EXPECT_EQ(f.name(2, 0), ""); // nothing crosses to the next Page
 }
@@ -102,11 +93,8 @@ TEST(InsertAtRow, APairOnAFilledRowOpensTwoRows)
     f.fill(1, 0, 5);
     f.put(1, 3, "Subject");
     InsertAtRow(f.ctx, 1, 3, f.index("Condition With Multiple Choices"));
-    EXPECT_EQ(f.name(1, 3), "Condition With Multiple Choices");
-    EXPECT_EQ(f.name(1, 4), "Followup With Multiple Choices");
-    EXPECT_EQ(f.name(1, 5), "Subject");
-    EXPECT_EQ(f.name(1, 7), "Name");
-    EXPECT_EQ(f.name(1, 8), "");
+    EXPECT_EQ(f.names(1, 3, 5), (V{"Condition With Multiple Choices", "Followup With Multiple Choices", "Subject"}));
+    EXPECT_EQ(f.names(1, 7, 8), (V{"Name", ""}));
 }
 
 TEST(InsertAtRow, ADraggedRowIsCopiedAndOtherRowsStay)
@@ -120,8 +108,7 @@ TEST(InsertAtRow, ADraggedRowIsCopiedAndOtherRowsStay)
     InsertAtRow(f.ctx, 1, 6, f.index("Subject"));
     EXPECT_EQ(f.name(1, 6), "Email");
     EXPECT_EQ(f.at(1, 6).AttributeText, "[Title=as edited]  \r\n");
-    EXPECT_EQ(f.name(1, 2), "Email");
-    EXPECT_EQ(f.name(1, 3), "");
+    EXPECT_EQ(f.names(1, 2, 3), (V{"Email", ""}));
     EXPECT_EQ(f.store.state.DragSource, 0);
 }
 
@@ -133,25 +120,21 @@ TEST(InsertAtRow, RefusalsChangeNothingAndSayWhy)
     f.put(1, 2, "Followup With Comment");
     f.fill(1, 3, 24);
     const auto before = f.store.pages;
-
     InsertAtRow(f.ctx, 1, 2, f.index("Name"));
     EXPECT_TRUE(
         Said(f.port.last(),
              "You cannot add a Input Type above a Followup\r\rInput Types can only be added below a Followup or "
              "above a Condition Input type",
              "INVALID", Icon::Exclamation));
-
     f.port.clear();
     InsertAtRow(f.ctx, 1, 24, f.index("Download Files With Password"));
     EXPECT_TRUE(f.port.shown.empty()); // a pair on row 24: refused without a word
-
     f.store.state.DragSource = 100;
     InsertAtRow(f.ctx, 1, 5, f.index("Name"));
     EXPECT_TRUE(Said(f.port.last(),
                      "SETUP input type cannot be duplicated.\r\rOnly one instance is required to complete your FORM",
                      "CANNOT COPY SETUP"));
     EXPECT_EQ(f.store.state.DragSource, 0);
-
     for (int p = 0; p < 4; ++p)
         for (int r = 0; r < 25; ++r) {
             EXPECT_EQ(f.store.pages[p][r].InputTypeName, before[p][r].InputTypeName);
@@ -165,9 +148,7 @@ TEST(InsertAtRow, DroppingAboveAConditionIsAllowed)
     f.put(1, 1, "Condition With Comment");
     f.put(1, 2, "Followup With Comment");
     InsertAtRow(f.ctx, 1, 1, f.index("Name"));
-    EXPECT_EQ(f.name(1, 1), "Name");
-    EXPECT_EQ(f.name(1, 2), "Condition With Comment");
-    EXPECT_EQ(f.name(1, 3), "Followup With Comment");
+    EXPECT_EQ(f.names(1, 1, 3), (V{"Name", "Condition With Comment", "Followup With Comment"}));
 }
 
 // --- InsertRows -----------------------------------------------------------
@@ -179,32 +160,21 @@ TEST(InsertRows, ModesOpenTwoOrOneRowBeforeTheRow)
         f.put(2, r, "T" + std::to_string(r));
     f.at(2, 7).ReferenceNumber = "kept";
     InsertRows(f.store, 2, 6, 1);
-    EXPECT_EQ(f.name(2, 4), "T4");
-    EXPECT_EQ(f.name(2, 5), "");
-    EXPECT_EQ(f.name(2, 6), "");
-    EXPECT_EQ(f.name(2, 7), "T5");
+    EXPECT_EQ(f.names(2, 4, 7), (V{"T4", "", "", "T5"}));
     EXPECT_EQ(f.name(2, 24), "T22");
     EXPECT_EQ(f.at(2, 7).ReferenceNumber, "kept");
-
     InsertRows(f.store, 2, 1, 2);
-    EXPECT_EQ(f.name(2, 0), "");
-    EXPECT_EQ(f.name(2, 1), "T0");
-}
-
-TEST(InsertRows, AnEmptyRowAtTheInsertionPointIsNotWrittenAgainInMode2)
-{
-    EditFixture f;
+    EXPECT_EQ(f.names(2, 0, 1), (V{"", "T0"}));
+    // an empty row at the insertion point is not written again in mode 2
     f.put(1, 0, "A");
     f.put(1, 2, "C");
     InsertRows(f.store, 1, 2, 2); // row 1 is empty
-    EXPECT_EQ(f.name(1, 0), "A");
-    EXPECT_EQ(f.name(1, 1), "");
-    EXPECT_EQ(f.name(1, 2), "C");
+    EXPECT_EQ(f.names(1, 0, 2), (V{"A", "", "C"}));
 }
 
 // --- ClearRow -------------------------------------------------------------
 
-TEST(ClearRow, EitherHalfOfAPairClearsBoth)
+TEST(ClearRow, EitherHalfOfAPairClearsBothASingleRowItself)
 {
     EditFixture f;
     f.put(1, 3, "Condition With Dropdown");
@@ -212,21 +182,13 @@ TEST(ClearRow, EitherHalfOfAPairClearsBoth)
     f.put(1, 5, "Name");
     f.at(1, 3).ReferenceNumber = "9";
     ClearRow(f.ctx, 1, 4);
-    EXPECT_EQ(f.name(1, 3), "");
-    EXPECT_EQ(f.name(1, 4), "");
-    EXPECT_EQ(f.name(1, 5), "Name");
+    EXPECT_EQ(f.names(1, 3, 5), (V{"", "", "Name"}));
     EXPECT_EQ(f.at(1, 3).ReferenceNumber, "9");
-
     f.put(3, 10, "Download Files With Password");
     f.put(3, 11, "Followup Files With Password");
     ClearRow(f.ctx, 3, 10);
     EXPECT_EQ(f.name(3, 11), "");
     EXPECT_FALSE(f.at(3, 11).EditEnabled);
-}
-
-TEST(ClearRow, ClearsHighlightsAndLeavesNeighboursOfASingleRow)
-{
-    EditFixture f;
     f.put(1, 0, "Name");
     f.put(1, 1, "Email");
     f.put(1, 2, "Subject");
@@ -268,7 +230,6 @@ TEST(ClearAllRows, NewProjectAndLoadHaveTheirOwnQuestions)
               "You have data on one or more pages\r\rDo you want to clear all entries on all pages except for the "
               "settings on the SETUP PAGE?\r\rNote: If you want to clear all entries and used the default settings "
               "then select CLEAR ALL from the main edit screen");
-
     f.fill(1, 0, 2);
     f.store.state.NewProjectPending = false;
     f.store.state.LoadPending = true;
@@ -319,7 +280,6 @@ TEST(ClearAllRows, EmptiesEveryRowKeepsNumbersAndSavesTheSetupRow)
     EXPECT_EQ(f.settings.Bold, "off");
     EXPECT_TRUE(f.at(1, 0).EditEnabled);
     EXPECT_FALSE(f.at(1, 1).EditEnabled);
-
     // the switch menus regenerate the SetupEntry: nothing is saved then
     f.put(1, 0, "Setup");
     f.at(1, 0).AttributeText = "other";
@@ -339,7 +299,6 @@ TEST(ClearAllRows, ClrAllLeavesOnlyADefaultSetupRow)
     EXPECT_EQ(f.name(1, 0), "Setup");
     EXPECT_NE(f.at(1, 0).AttributeText.find("[FROM=;My Web Page]\r\n"), std::string::npos);
     EXPECT_EQ(CountFilledRows(f.store), 1);
-
     f.fill(2, 0, 4);
     f.port.answer(Answer::No);
     ClearAllCommand(f.ctx);

@@ -7,17 +7,23 @@
 using namespace tq;
 using namespace tq::model;
 
-TEST(EntryStore, RowsStartWithTheirOrdinalAsReferenceNumber)
+TEST(EntryStore, RowsStartWithTheirOrdinalAndRowsOutsideThePagesAreInternalErrors)
 {
     EntryStore store;
     EXPECT_EQ(GetEntry(store, 1, 0).ReferenceNumber, "1");
     EXPECT_EQ(GetEntry(store, 1, 24).ReferenceNumber, "25");
     EXPECT_EQ(GetEntry(store, 2, 0).ReferenceNumber, "26");
     EXPECT_EQ(GetEntry(store, 4, 24).ReferenceNumber, "100");
-
     GetEntry(store, 3, 5).ReferenceNumber = "7x";
     InitRowBookkeeping(store);
     EXPECT_EQ(GetEntry(store, 3, 5).ReferenceNumber, "56");
+    EXPECT_THROW(GetEntry(store, 0, 0), InternalError);
+    EXPECT_THROW(GetEntry(store, 5, 0), InternalError);
+    EXPECT_THROW(GetEntry(store, 1, -1), InternalError);
+    EXPECT_THROW(GetEntry(store, 1, 25), InternalError);
+    test::ScriptedPort port;
+    EXPECT_THROW(SetAttributeText(store, port, 4, 25, "[A=1]"), InternalError);
+    EXPECT_THROW(SetInputTypeName(store, 0, 3, "Name"), InternalError);
 }
 
 TEST(EntryStore, ReferenceNumberSurvivesEmptyingTheRows)
@@ -33,18 +39,6 @@ TEST(EntryStore, ReferenceNumberSurvivesEmptyingTheRows)
     EXPECT_EQ(GetEntry(store, 2, 4).ReferenceNumber, "30");
 }
 
-TEST(EntryStore, RowsOutsideThePagesAreInternalErrors)
-{
-    EntryStore store;
-    EXPECT_THROW(GetEntry(store, 0, 0), InternalError);
-    EXPECT_THROW(GetEntry(store, 5, 0), InternalError);
-    EXPECT_THROW(GetEntry(store, 1, -1), InternalError);
-    EXPECT_THROW(GetEntry(store, 1, 25), InternalError);
-    test::ScriptedPort port;
-    EXPECT_THROW(SetAttributeText(store, port, 4, 25, "[A=1]"), InternalError);
-    EXPECT_THROW(SetInputTypeName(store, 0, 3, "Name"), InternalError);
-}
-
 TEST(EntryStore, SetAttributeTextNormalisesUnlessARowIsDragged)
 {
     EntryStore store;
@@ -52,7 +46,6 @@ TEST(EntryStore, SetAttributeTextNormalisesUnlessARowIsDragged)
     SetAttributeText(store, port, 1, 2, "[Title=A] [Info: x] [Align=left] [Choices=left,right]");
     EXPECT_EQ(GetEntry(store, 1, 2).AttributeText,
               "[Title=A]\r\n[Info: x]\r\n\r\n[Align=left]\r\n[Choices=left,right]\r\n");
-
     // a drag from a row (100 + row) stores the moved text as it is
     const std::string moved = "[Title=A]\r\n[Info: x]\r\n\r\n[Align=left]\r\n";
     store.state.DragSource = 99;
@@ -61,7 +54,6 @@ TEST(EntryStore, SetAttributeTextNormalisesUnlessARowIsDragged)
     store.state.DragSource = 98;
     SetAttributeText(store, port, 1, 3, moved);
     EXPECT_EQ(GetEntry(store, 1, 3).AttributeText, "[Title=A]\r\n");
-
     // a text read from a project file is stored as read
     SetAttributeTextAsRead(store, 1, 4, moved);
     EXPECT_EQ(GetEntry(store, 1, 4).AttributeText, moved);
@@ -79,7 +71,7 @@ TEST(EntryStore, CountFilledRowsLooksForTheExactlyEmptyName)
     EXPECT_EQ(CountFilledRows(store), 3);
 }
 
-TEST(EntryStore, EditMarkersFollowTheNamesAndTheSetupRowKeepsItsOwn)
+TEST(EntryStore, EditMarkersAndHighlights)
 {
     EntryStore store;
     SetInputTypeName(store, 2, 5, "Name");
@@ -90,15 +82,9 @@ TEST(EntryStore, EditMarkersFollowTheNamesAndTheSetupRowKeepsItsOwn)
     EXPECT_TRUE(GetEntry(store, 2, 5).EditEnabled);
     EXPECT_TRUE(GetEntry(store, 3, 1).EditEnabled);
     EXPECT_FALSE(GetEntry(store, 4, 9).EditEnabled);
-
     ClearEditMarkers(store);
     EXPECT_TRUE(GetEntry(store, 1, 0).EditEnabled);
     EXPECT_FALSE(GetEntry(store, 2, 5).EditEnabled);
-}
-
-TEST(EntryStore, ClearHighlightsUnlessThePreviewCameFromTheEditPage)
-{
-    EntryStore store;
     GetEntry(store, 2, 2).highlight = Highlight::Red;
     GetEntry(store, 4, 24).highlight = Highlight::Green;
     store.state.PreviewFromEdit = true;

@@ -31,7 +31,7 @@ void ExpectOneMessage(const ScriptedPort& ui, const std::string& text, const std
 
 } // namespace
 
-TEST(ExternalTools, ProgramFolderStopsAtTheThirdCharacter)
+TEST(ExternalTools, LaunchFtpStartsTheProgramInItsFolderOrSaysWhy)
 {
     EXPECT_EQ(ProgramFolder("/usr/bin/filezilla"), "/usr/bin");
     EXPECT_EQ(ProgramFolder("C:\\Program Files\\FTP\\ftp.exe"), "C:\\Program Files\\FTP");
@@ -39,10 +39,6 @@ TEST(ExternalTools, ProgramFolderStopsAtTheThirdCharacter)
     EXPECT_EQ(ProgramFolder("/ftp"), "");
     EXPECT_EQ(ProgramFolder("ftp"), "");
     EXPECT_EQ(ProgramFolder(""), "");
-}
-
-TEST(ExternalTools, LaunchFtpStartsTheProgramInItsFolderOrSaysWhy)
-{
     ScriptedPort ui;
     EXPECT_TRUE(LaunchFTP(Tools(), ui));
     ASSERT_EQ(ui.started.size(), 1u);
@@ -50,7 +46,6 @@ TEST(ExternalTools, LaunchFtpStartsTheProgramInItsFolderOrSaysWhy)
     EXPECT_TRUE(ui.started[0].args.empty());
     EXPECT_EQ(ui.started[0].folder, "/opt/ftp tools/bin");
     EXPECT_TRUE(ui.shown.empty());
-
     auto empty = Tools();
     empty.FTPProgramPath.clear();
     ScriptedPort none;
@@ -60,7 +55,6 @@ TEST(ExternalTools, LaunchFtpStartsTheProgramInItsFolderOrSaysWhy)
                      "No FTP program was selected in SETUP. Go to setup and enter the full path of the FTP program "
                      "that you will be using",
                      "Error launching FTP CLIENT");
-
     ScriptedPort failing;
     failing.startResult = false;
     EXPECT_FALSE(LaunchFTP(Tools(), failing));
@@ -77,7 +71,6 @@ TEST(ExternalTools, OpenLiveRowStartsTheBrowserWithTheRowsServerPath)
     ASSERT_EQ(ui.started.size(), 1u);
     EXPECT_EQ(ui.started[0].program, "/usr/bin/browser");
     EXPECT_EQ(ui.started[0].args, std::vector<std::string>{"https://club.example/index.htm"});
-
     // a row with a name but no server path, and numbers outside 1..15
     auto setup = Tools();
     setup.rows[4].MenuName = "Named only";
@@ -88,7 +81,6 @@ TEST(ExternalTools, OpenLiveRowStartsTheBrowserWithTheRowsServerPath)
         ExpectOneMessage(missing, "To add a menu item to the list, go to setup and add the new web folder to the list",
                          "NO ENTRY FOUND");
     }
-
     ScriptedPort failing;
     failing.startResult = false;
     EXPECT_FALSE(OpenLiveRow(Tools(), 3, failing));
@@ -106,14 +98,12 @@ TEST(ExternalTools, OpenEditorRowPassesTheFolderWithItsBlanksAsOneArgument)
     EXPECT_EQ(ui.started[0].program, "/usr/bin/webedit");
     EXPECT_EQ(ui.started[0].args, std::vector<std::string>{"/home/me/My Web Sites/club"});
     EXPECT_EQ(ui.previewsHidden, 1);
-
     ScriptedPort noRow;
     EXPECT_FALSE(OpenEditorRow(Tools(), 2, noRow));
     ExpectOneMessage(noRow,
                      "No Web Editor has been selected for this entry. Please go to the Setup Page and choose a path "
                      "for your Web Editor",
                      "NO ENTRY HAS BEEN MADE IN SETUP");
-
     auto noEditor = Tools();
     noEditor.WebEditorPath.clear();
     ScriptedPort unset;
@@ -123,7 +113,6 @@ TEST(ExternalTools, OpenEditorRowPassesTheFolderWithItsBlanksAsOneArgument)
                      "No Web Editor was selected in SETUP. Go to setup and enter the full path of the Web Editor that "
                      "you will be using",
                      "Error launching Web Editor");
-
     ScriptedPort failing;
     failing.startResult = false;
     EXPECT_FALSE(OpenEditorRow(Tools(), 3, failing));
@@ -133,7 +122,7 @@ TEST(ExternalTools, OpenEditorRowPassesTheFolderWithItsBlanksAsOneArgument)
                      "Error launching Web Editor");
 }
 
-TEST(ExternalTools, OpenTargetOpensLinksFilesAndExistingFoldersAsTheyStand)
+TEST(ExternalTools, OpenTargetOpensWhatExistsAndAsksForAMissingFolder)
 {
     TempDir dir;
     ScriptedPort ui;
@@ -141,29 +130,22 @@ TEST(ExternalTools, OpenTargetOpensLinksFilesAndExistingFoldersAsTheyStand)
     EXPECT_EQ(ui.opened,
               (std::vector<std::string>{"https://www.tarnquill.example/tarnquill/index.htm", dir.path(), "notes.txt"}));
     EXPECT_TRUE(ui.shown.empty());
-
     ScriptedPort nothing;
     OpenTarget("", "b.htm", "c.htm", nothing);
     EXPECT_TRUE(nothing.opened.empty());
-}
-
-TEST(ExternalTools, OpenTargetAsksForAFolderThatIsMissingAndStopsOnAnEmptyAnswer)
-{
-    TempDir dir;
     const std::string gone = dir.path() + "/nowhere";
-    ScriptedPort ui;
-    ui.input(dir.path());
-    ui.input("");
-    OpenTarget(gone, gone + "2", "x.htm", ui);
-    EXPECT_EQ(ui.opened, std::vector<std::string>{dir.path()});
+    ScriptedPort asked;
+    asked.input(dir.path());
+    asked.input("");
+    OpenTarget(gone, gone + "2", "x.htm", asked);
+    EXPECT_EQ(asked.opened, std::vector<std::string>{dir.path()});
     // the third target is never reached: the empty answer ends the run
-    ASSERT_EQ(ui.shown.size(), 4u);
-    EXPECT_EQ(ui.shown[0].text, gone + " folder needs to be created.");
-    EXPECT_EQ(ui.shown[1].kind, "input");
-    EXPECT_TRUE(Said(ui.shown[1], "Enter the desired path", "NO PATH"));
-    EXPECT_EQ(ui.shown[2].text, gone + "2 folder needs to be created.");
-    EXPECT_EQ(ui.shown[3].text, "Enter the desired path that is already created");
-
+    ASSERT_EQ(asked.shown.size(), 4u);
+    EXPECT_EQ(asked.shown[0].text, gone + " folder needs to be created.");
+    EXPECT_EQ(asked.shown[1].kind, "input");
+    EXPECT_TRUE(Said(asked.shown[1], "Enter the desired path", "NO PATH"));
+    EXPECT_EQ(asked.shown[2].text, gone + "2 folder needs to be created.");
+    EXPECT_EQ(asked.shown[3].text, "Enter the desired path that is already created");
     ScriptedPort cancelled;
     cancelled.input(std::nullopt);
     OpenTarget(gone, "", "", cancelled);
@@ -199,7 +181,6 @@ TEST(ExternalTools, FolderOpenersAndTheOutputInTheEditor)
     EXPECT_TRUE(ShowOutputInEditor(b, ui));
     EXPECT_EQ(ui.opened, (std::vector<std::string>{dir.path(), dir.path(), dir.path() + "/formtql.htm"}));
     EXPECT_TRUE(ui.shown.empty());
-
     ScriptedPort folder;
     folder.file(dir.path());
     EXPECT_EQ(BrowseForFolder("Pick", "/", folder), dir.path());

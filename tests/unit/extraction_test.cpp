@@ -134,11 +134,9 @@ TEST_F(Extraction, ShadeListsAndTableValues)
     Extract("NAME", kSamples[1].text, "SURVEY");
     EXPECT_EQ(s.build.values.ShadeWidth, "40%");
     EXPECT_EQ(s.build.values.ShadeColorHex, "C0C0C0");
-
     Extract("Checkbox Horizontal", kSamples[7].text);
     ASSERT_EQ(s.build.values.CheckBoxes.count(), 3);
     EXPECT_EQ(s.build.values.CheckBoxes.at(3), "Advanced");
-
     Extract("Table Text Required", kSamples[6].text, "SURVEY");
     const auto& v = s.build.values;
     EXPECT_EQ(v.ColChoice, "Customer Satisfaction");
@@ -147,13 +145,12 @@ TEST_F(Extraction, ShadeListsAndTableValues)
     EXPECT_EQ(v.ChoicesBackColorHex, "C0C0C0");
     EXPECT_EQ(v.TableTextColorHex, "000000");
     EXPECT_EQ(v.REQ, "yes");
-
     Extract("CONDITION WITH DROPDOWN", kSamples[12].text, "SURVEY");
     ASSERT_EQ(s.build.values.Choices.count(), 2);
     EXPECT_EQ(s.build.values.Choices.at(1), "yes");
 }
 
-TEST_F(Extraction, DefaultLinesComeFromACopyOfTheDefault)
+TEST_F(Extraction, DefaultLinesAndIntroLinesAreSplitCopies)
 {
     Extract("Comments With Text", kSamples[8].text);
     const auto& v = s.build.values;
@@ -163,9 +160,13 @@ TEST_F(Extraction, DefaultLinesComeFromACopyOfTheDefault)
     EXPECT_EQ(v.DefaultLines.at(3), "");
     EXPECT_EQ(v.Width, "70");
     EXPECT_EQ(v.Height, "11");
+    Extract("SURVEY INTRO", kSamples[15].text, "SURVEY");
+    ASSERT_EQ(s.build.values.IntroLines.count(), 7); // the empty lines between paragraphs stay
+    EXPECT_EQ(s.build.values.IntroLines.at(2), "Your opinion is very important to us.");
+    EXPECT_EQ(s.build.values.IntroLines.at(4), "");
 }
 
-TEST_F(Extraction, DownloadFillsTheBuildTables)
+TEST_F(Extraction, DownloadFillsTheBuildTablesUpToFiftyFiles)
 {
     s.build.entryPreview = true;
     Extract("Download Files With Password", kSamples[4].text);
@@ -177,10 +178,6 @@ TEST_F(Extraction, DownloadFillsTheBuildTables)
     EXPECT_EQ(s.build.homePage, ";https://www.tarnquill.example/thankyou.htm");
     EXPECT_EQ(s.build.values.VisibleDownloadPassword, "yes");
     EXPECT_EQ(s.build.values.ServerFolderPath, ";https://www.tarnquill.example/test/");
-}
-
-TEST_F(Extraction, MoreThanFiftyDownloadFilesIsAnInternalError)
-{
     std::string files;
     for (int i = 1; i <= 51; ++i)
         files += (i > 1 ? "," : "") + std::string("f") + std::to_string(i);
@@ -193,7 +190,7 @@ TEST_F(Extraction, MoreThanFiftyDownloadFilesIsAnInternalError)
     EXPECT_THROW(Extract("DOWNLOAD FILES", text), tq::model::InternalError);
 }
 
-TEST_F(Extraction, SemicolonPathsStopUnlessAnEntryPreview)
+TEST_F(Extraction, SemicolonPathsStopUnlessAnEntryPreviewABackslashAlways)
 {
     Extract("Video", kSamples[9].text);
     EXPECT_EQ(s.build.buildError, 1);
@@ -201,13 +198,11 @@ TEST_F(Extraction, SemicolonPathsStopUnlessAnEntryPreview)
     EXPECT_TRUE(Said(ui.last(),
                      ";https://www.tarnquill.example/test/videos/birds.mp4\r\rCANNOT CONTAIN A SEMI-COLON (;)", "ERROR",
                      Icon::Exclamation));
-
     ui.clear();
     s.build.buildError = 0;
     Extract("DOWNLOAD FILES WITH PASSWORD", kSamples[4].text);
     EXPECT_EQ(s.build.buildError, 1);
     EXPECT_EQ(ui.last().text, ";https://www.tarnquill.example/test\r\rCANNOT CONTAIN A SEMI-COLON (;)");
-
     ui.clear();
     s.build.buildError = 0;
     s.build.entryPreview = true;
@@ -216,11 +211,6 @@ TEST_F(Extraction, SemicolonPathsStopUnlessAnEntryPreview)
     EXPECT_TRUE(ui.shown.empty());
     EXPECT_EQ(s.build.values.VideoAlign, "left");
     EXPECT_EQ(s.build.values.Loop, "1");
-}
-
-TEST_F(Extraction, BackslashInAPathStopsEvenInAPreview)
-{
-    s.build.entryPreview = true;
     Extract("PICTURE", "[Server Picture Path=c:\\pics\\a.gif] [Info: x] [Align=left] [Choices=l] "
                        "[Picture Width=600] [Info: w] [Picture Height=60] [Info: h]");
     EXPECT_EQ(s.build.buildError, 1);
@@ -242,14 +232,12 @@ TEST_F(Extraction, CancelButtonLinkChecks)
              "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN HE CLICKS ON THE CANCEL BUTTON\r\r"
              "Example: index.htm\r\rCLICK ON EDIT AND ADD A WEB LINK",
              "CANCEL INPUT TYPE HAS AN ERROR", Icon::Exclamation));
-
     s.build.buildError = 0;
     Extract("CANCEL BUTTON", head + "index] [Info: x]");
     EXPECT_EQ(s.build.buildError, 1);
     EXPECT_EQ(ui.last().text, "INPUT TYPE -> CANCEL BUTTON\r FOR ->LINK TO\r"
                               "DOES NOT HAVE A VALID URL WEB LINK. MISSING THE PERIOD\r\rExample: index.htm\r\r"
                               "CLICK ON EDIT AND CORRECT THE PROBLEM");
-
     ui.clear();
     s.build.buildError = 0;
     Extract("CANCEL BUTTON", head + "index.htm] [Info: x]");
@@ -258,27 +246,29 @@ TEST_F(Extraction, CancelButtonLinkChecks)
     EXPECT_EQ(s.build.values.LinkTo, "index.htm");
 }
 
-TEST_F(Extraction, AnAbsentKeyStopsWithTheReadersMessage)
+TEST_F(Extraction, TheReadersFaultsStopAndAnUnknownTypeIsPassedOn)
 {
-    Extract("NAME", "[Title=A] [Info: x] [Title Size=3] [Info: x]");
-    EXPECT_EQ(s.build.buildError, 1);
-    ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_TRUE(
-        Said(ui.last(), "Cannot find left [ bracket in [ERROR MESSAGE\r\r[Title Size=3]", "error", Icon::Critical));
-}
-
-TEST_F(Extraction, AWrongHelpItemIsStillRefused)
-{
-    Extract("TITLE HEADER", "[Title=A] [Title Size=3] [Info: x]");
-    EXPECT_EQ(s.build.buildError, 1);
-    EXPECT_EQ(ui.last().text, "Cannot find left [ bracket in [INFO:\r\r[Title Size=3]");
-}
-
-TEST_F(Extraction, AnUnknownTypeIsPassedOnWithoutAWord)
-{
-    Extract("Marquee", "[Title=A] [Info: x]");
-    EXPECT_EQ(s.build.buildError, 5);
-    EXPECT_TRUE(ui.shown.empty());
+    const std::string cannot = "Cannot find left [ bracket in [";
+    const struct
+    {
+        const char* type;
+        const char* text;
+        int err;
+        std::string said; // the reader's one message, or none
+    } rows[] = {          // an absent key, a missing help item, a type the extraction doesn't know
+                {"NAME", "[Title=A] [Info: x] [Title Size=3] [Info: x]", 1, cannot + "ERROR MESSAGE\r\r[Title Size=3]"},
+                {"TITLE HEADER", "[Title=A] [Title Size=3] [Info: x]", 1, cannot + "INFO:\r\r[Title Size=3]"},
+                {"Marquee", "[Title=A] [Info: x]", 5, ""}};
+    for (const auto& r : rows) {
+        s.build.buildError = 0;
+        ui.clear();
+        Extract(r.type, r.text);
+        EXPECT_EQ(s.build.buildError, r.err) << r.type;
+        ASSERT_EQ(ui.shown.size(), r.said.empty() ? 0u : 1u) << r.type;
+        if (!r.said.empty()) {
+            EXPECT_TRUE(Said(ui.last(), r.said, "error", Icon::Critical));
+        }
+    }
 }
 
 TEST_F(Extraction, GlobalOverridesApplyToEveryEntryButTheSetup)
@@ -290,31 +280,19 @@ TEST_F(Extraction, GlobalOverridesApplyToEveryEntryButTheSetup)
     EXPECT_EQ(s.build.values.ALIGN, "right");
     EXPECT_EQ(setup.SubmitAlign, "right");
     EXPECT_EQ(s.build.values.TextColorHex, "FFFFFF");
-
     Extract("NAME", kSamples[1].text, "SURVEY");
     EXPECT_EQ(s.build.values.TextColorHex, "0");
-
     setup.GlobalTextColor = "255";
     Extract("Video", kSamples[9].text);
     EXPECT_EQ(s.build.values.VideoAlign, "right");
-
     s.build.buildError = 0;
     Extract("Title Shade", kSamples[5].text, "SURVEY");
     EXPECT_EQ(s.build.values.TextColorHex, "FF0000"); // the colour beats the "0" of the alignment
     EXPECT_EQ(s.build.values.TitleShadeWidth, "45%");
-
     Extract("HORIZONTAL LINE", kSamples[16].text);
     EXPECT_EQ(s.build.values.LineAlign, "right");
     EXPECT_EQ(s.build.values.LineWidth, "85%");
     EXPECT_EQ(s.build.values.LineColorHex, "FFFFFF");
-}
-
-TEST_F(Extraction, SurveyIntroSplitsItsTitle)
-{
-    Extract("SURVEY INTRO", kSamples[15].text, "SURVEY");
-    ASSERT_EQ(s.build.values.IntroLines.count(), 7); // the empty lines between paragraphs stay
-    EXPECT_EQ(s.build.values.IntroLines.at(2), "Your opinion is very important to us.");
-    EXPECT_EQ(s.build.values.IntroLines.at(4), "");
 }
 
 } // namespace

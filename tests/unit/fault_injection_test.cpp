@@ -284,7 +284,6 @@ TEST(LineWriter, WritesToATemporaryNameAndReplacesTheFileOnClose)
     EXPECT_EQ(out.error(), 0);
     EXPECT_EQ(ReadFileBytes(file), "new\r\n");
     ExpectNoTempFiles(dir.path());
-
     // a writer that goes out of scope still ends its file
     {
         tq::build::LineWriter scoped;

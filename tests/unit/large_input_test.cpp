@@ -92,7 +92,6 @@ TEST(LargeInput, TenMegabytesOfItemsAreNormalisedAndReadToTheEnd)
     for (size_t at = stored.find("\r\n"); at != std::string::npos; at = stored.find("\r\n", at + 2))
         ++lines;
     EXPECT_EQ(lines, static_cast<size_t>(items));
-
     AttributeCursor cursor(text);
     std::string value;
     int err = 0, read = 0;
@@ -119,7 +118,6 @@ TEST(LargeInput, TenThousandChoicesPassTheListBoundAndAreToldAsAnInternalError)
     std::string choices;
     for (int i = 0; i < 10000; ++i)
         choices += (i ? "," : "") + std::string("Choice ") + std::to_string(i);
-
     // the reader alone: the bound of 100 items is reported, not passed
     std::string text = "[Choices=" + choices + "]";
     tq::model::ChoiceList list;
@@ -127,7 +125,6 @@ TEST(LargeInput, TenThousandChoicesPassTheListBoundAndAreToldAsAnInternalError)
     ScriptedPort quiet;
     EXPECT_THROW(tq::model::TakeChoiceList(quiet, "[CHOICES", text, list, err), tq::model::InternalError);
     EXPECT_EQ(list.count(), 100);
-
     // through a build: the box of an internal error, and the build stops
     OneEntryBuild b("Dropdown Required",
                     WithValue(SampleRow("sample_form.fms", "Dropdown Required"), "[Default Dropdown Value=", choices));
@@ -144,7 +141,6 @@ TEST(LargeInput, AThousandLineTitlePassesTheLineBoundAndIsToldAsAnInternalError)
         lines += (i ? "\\n" : "") + std::string("Line ") + std::to_string(i);
     EXPECT_THROW(tq::model::SplitLines(lines), tq::model::InternalError);
     EXPECT_THROW(tq::model::SplitHtmlLines(lines), tq::model::InternalError);
-
     OneEntryBuild b("Title 2 Double Line",
                     WithValue(SampleRow("sample_form_2.fms", "Title 2 Double Line"), "[Title=", lines));
     EXPECT_EQ(b.s->build.buildError, 1);

@@ -37,7 +37,6 @@ TEST(LocalTest, OddMailsKeepWhatTheyHave)
     EXPECT_EQ(lf.to, "a@b");
     EXPECT_EQ(lf.subject, "x");
     EXPECT_EQ(lf.body, "body");
-
     const CapturedMail noBody = ParseCapturedMail("To: a@b\r\nno colon here");
     EXPECT_EQ(noBody.headers.size(), 2u);
     EXPECT_EQ(noBody.body, "");

@@ -125,7 +125,6 @@ TEST(SwitchMode, ARefusedClearIsAbortedButTheModeStaysChanged)
                      Icon::Information));
     EXPECT_TRUE(log.calls.empty());
     EXPECT_FALSE(f.store.state.SwitchInProgress);
-
     f.port.answer(Answer::No);
     SwitchMode(f.ctx, log.hooks(), "FORM", 2, 0, true);
     EXPECT_EQ(f.port.last().text,
@@ -185,7 +184,6 @@ TEST(SwitchProjectList, GivesTheFreshSetupOfTheNewMode)
     ASSERT_TRUE(SwitchProjectList(f.ctx, {}, "SURVEY"));
     EXPECT_NE(f.at(1, 0).AttributeText.find("[TQL Output File=surveytql.htm]"), std::string::npos);
     EXPECT_FALSE(f.store.state.KeepSetupRow);
-
     f.port.answer(Answer::No);
     EXPECT_FALSE(SwitchProjectList(f.ctx, {}, "FORM"));
     EXPECT_EQ(f.name(1, 5), "Table Text Required"); // refused: the rows stay

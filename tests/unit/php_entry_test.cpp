@@ -92,7 +92,6 @@ TEST(PhpEntry, ConditionsAndTheirFollowups)
     EXPECT_EQ(p.entry("FOLLOWUP WITH COMMENT", "follo7", "yes", "More"),
               "$follo7 = $_POST[\"follo7\"];\r\nvalidate_radio($quest5,$follo7,\"More\");\r\n\r\n");
     EXPECT_EQ(p.state->lastConditionField, "");
-
     // a not-required Condition keeps the older field, here a required NAME
     p.entry("NAME", "name9", "yes");
     EXPECT_EQ(p.entry("CONDITION WITH MULTIPLE CHOICES", "condi11", "no"), "$condi11 = $_POST[\"condi11\"];\r\n");
@@ -138,10 +137,6 @@ TEST(PhpEntry, TypesWithoutChecksWriteNothing)
     // a CANCEL BUTTON writes nothing but takes a number
     EXPECT_EQ(p.entry("CANCEL BUTTON", "cance3"), "");
     EXPECT_EQ(p.state->phpQuestionNumber, 1);
-}
-
-TEST(PhpEntry, WithoutNumberingTheMessagesStayAsTheyAre)
-{
     Pass off;
     off.state->setupValues.NumberEachQuestion = "NO";
     EXPECT_EQ(off.entry("NAME", "name3", "yes", "Name?"), "$name3 = check_entry($_POST[\"name3\"],\"Name?\");\r\n");
@@ -162,7 +157,6 @@ TEST(PhpEntry, DownloadFiles)
     EXPECT_EQ(p.entry("DOWNLOAD FILES WITH PASSWORD", "downl11", "yes", "Pw"),
               "$downl11 = check_entry($_POST[\"downl11\"],\"Pw\");\r\n");
     EXPECT_EQ(p.state->lastConditionField, "downl11");
-
     // an empty title writes nothing and changes nothing
     p.v().Title = "";
     p.state->values.REQ = "no";

@@ -50,7 +50,7 @@ TEST(PhpPages, LibraryAndEmptyPagesMatchGolden)
     EXPECT_EQ(Count(written, "/* Show Download of file */"), 1u);
 }
 
-TEST(PhpPages, LinksJoinTheServerPathAsItStands)
+TEST(PhpPages, LinksJoinTheServerPathAsItStandsAndAHomeButtonUnlessNone)
 {
     auto st = std::make_unique<build::BuildState>();
     st->downloadFileCount = 1;
@@ -61,11 +61,6 @@ TEST(PhpPages, LinksJoinTheServerPathAsItStands)
               std::string::npos);
     EXPECT_EQ(page.find("beyond"), std::string::npos);
     EXPECT_EQ(Count(page, "<a style=\"color: #FFFF00\"\r\n"), 2u);
-}
-
-TEST(PhpPages, HomeButtonUnlessEmptyOrNone)
-{
-    auto st = std::make_unique<build::BuildState>();
     for (const char* none : {"None", "NONE", "none", ""}) {
         st->homePage = none;
         EXPECT_EQ(DownloadPage(*st, "").find("value=\"Home\""), std::string::npos) << none;

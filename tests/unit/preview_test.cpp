@@ -74,7 +74,6 @@ TEST(EntryPreview, AConditionIsBuiltWithItsFollowupIntoTheDataFolder)
     EXPECT_FALSE(f.s->build.entryPreview);
     EXPECT_FALSE(f.s->build.wholePage);
     EXPECT_FALSE(f.s->store.state.PreviewFromEdit);
-
     // an Entry that is not a Condition takes no Followup along
     st = OpenEditPage(*f.s, f.port, 1, 2);
     ASSERT_FALSE(PreviewEntry(*f.s, f.port, st).empty());
@@ -96,7 +95,6 @@ TEST(QuickPreview, PlainTextsGetTheFramedPage)
         << html;
     const std::string tail = "  </center>\r\n</div>\r\n\r\n</body>\r\n</html>\r\n";
     EXPECT_EQ(html.substr(html.size() - tail.size()), tail);
-
     // a title has its place on the page: the Entry preview shows it
     EXPECT_EQ(PreviewAttribute(*f.s, f.port, st, 0, "New title"), f.data.file("Preview.htm"));
 }
@@ -119,7 +117,6 @@ TEST(ShadeWidthBatch, AsksUntilTheValueIsGoodAndRewritesEveryShadeWidth)
     const std::string& text = f.s->store.pages[1][0].AttributeText;
     EXPECT_NE(text.find("[Shade Width=75]\r\n"), std::string::npos) << text;
     EXPECT_NE(text.find("[Title Shade Width=10%]"), std::string::npos);
-
     f.port.input(std::nullopt);
     EXPECT_EQ(SetShadeWidthAll(*f.s, f.port), -1);
 }

@@ -31,11 +31,15 @@ const std::string kRefused = "PHP Parse error:  syntax error, unexpected integer
 
 } // namespace
 
-TEST(PublishCheck, ReadsTheLineThatPhpNames)
+TEST(PublishCheck, PhpsLineAndWordsMakeTheWarning)
 {
     EXPECT_EQ(PhpErrorLine(kRefused), 3);
     EXPECT_EQ(PhpErrorLine("No syntax errors detected in x.php\n"), 0);
     EXPECT_EQ(PhpErrorLine("on line 99999999999999"), 0);
+    auto b = Built("/w/formtql.php");
+    b.flatList.at(11) = "Phone Number";
+    EXPECT_EQ(PublishWarning(b, kRefused, kScript),
+              "WARNING: PHP cannot run formtql.php (line 3): syntax error, unexpected integer \"11\"");
 }
 
 TEST(PublishCheck, NamesTheInputTypeWhoseFieldNameBreaksTheScript)
@@ -57,14 +61,6 @@ TEST(PublishCheck, NamesTheInputTypeWhoseFieldNameBreaksTheScript)
     EXPECT_EQ(test::ReadFileBytes(dir.file("formtql.php")), kScript);
 }
 
-TEST(PublishCheck, WithoutABrokenNameTheWarningCarriesPhpsWords)
-{
-    auto b = Built("/w/formtql.php");
-    b.flatList.at(11) = "Phone Number";
-    EXPECT_EQ(PublishWarning(b, kRefused, kScript),
-              "WARNING: PHP cannot run formtql.php (line 3): syntax error, unexpected integer \"11\"");
-}
-
 TEST(PublishCheck, AScriptThatParsesOrNoPhpGivesNoWarning)
 {
     TempDir dir;
@@ -75,12 +71,10 @@ TEST(PublishCheck, AScriptThatParsesOrNoPhpGivesNoWarning)
     EXPECT_TRUE(parsed.checked);
     EXPECT_TRUE(parsed.parses);
     EXPECT_EQ(parsed.warning, "");
-
     ScriptedPort noPhp; // nothing queued: php could not be started
     const PublishCheck unchecked = CheckPublishedScript(Built(dir.file("formtql.php")), noPhp);
     EXPECT_FALSE(unchecked.checked);
     EXPECT_TRUE(unchecked.parses);
-
     ScriptedPort noScript;
     EXPECT_FALSE(CheckPublishedScript(Built(dir.file("missing.php")), noScript).checked);
     EXPECT_TRUE(noScript.ran.empty());

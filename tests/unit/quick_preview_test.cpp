@@ -42,7 +42,6 @@ TEST(QuickPreview, PlainTextsGetTheQuickPreviewOthersTheEntryPreview)
     EXPECT_EQ(value, "Line&nbsp;one\\nLine two");
     EXPECT_EQ(shown, f.dir.file("Previewsingle.htm"));
     EXPECT_FALSE(entryRan);
-
     html::PreviewAttribute(
         f.s, "TITLE", "A title", false, [&](const std::string& p) { shown = "again " + p; },
         [&] {

@@ -73,7 +73,6 @@ TEST_F(Recent, AForeignLineCutsTheListAndLeadingTextIsDropped)
     store::UpdateRecentList(s, port);
     EXPECT_EQ(test::ReadFileBytes(Forms()), "E:elsewhere.fms\r\n" + a + "\r\n");
     port.clear();
-
     // at the next update the foreign line stands on line 2 and ends the list
     s.run.CurrentProjectName = b;
     store::UpdateRecentList(s, port);
@@ -87,7 +86,6 @@ TEST_F(Recent, AMissingFileIsReportedAndTakenOutOfTheShowListOnly)
     test::WriteFileBytes(Forms(), "x " + dead + "\r\n" + live + "\r\n");
     test::WriteFileBytes(dir.file("history.txt"), dir.file("show.shw") + "\r\n" + dead + "\r\n");
     store::RefreshFormList(s, port);
-
     const std::string text =
         dead + "\rdoes not exist\r\rEdit the History File and remove or update the path by going to FILE, "
                "RECENT, FORM and EDIT HISTORY";
@@ -109,7 +107,6 @@ TEST_F(Recent, PhotoListBacksUpAndDisablesWithoutAFile)
     EXPECT_TRUE(s.run.photoRecentEnabled);
     EXPECT_EQ(s.run.photoMenu[1].caption, "2. " + show);
     EXPECT_EQ(test::ReadFileBytes(dir.file("historybak.txt")), show + "\r\n" + show + "\r\n");
-
     bool failed = false;
     store::RemoveHistoryLine(dir.file("history.txt"), model::ToUpper("one.SHW"), failed);
     EXPECT_FALSE(failed);

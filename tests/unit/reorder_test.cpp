@@ -32,14 +32,10 @@ struct Rows
 
 TEST(LeadingNumber, ReadsTheNumberAtTheFrontOfTheText)
 {
-    EXPECT_EQ(LeadingNumber("12abc"), 12);
-    EXPECT_EQ(LeadingNumber("  7"), 7);
-    EXPECT_EQ(LeadingNumber("2.5"), 2.5);
-    EXPECT_EQ(LeadingNumber("-3"), -3);
-    EXPECT_EQ(LeadingNumber("1e2"), 100);
-    EXPECT_EQ(LeadingNumber(""), 0);
-    EXPECT_EQ(LeadingNumber("abc"), 0);
-    EXPECT_EQ(LeadingNumber("."), 0);
+    const std::pair<const char*, double> rows[] = {{"12abc", 12}, {"  7", 7}, {"2.5", 2.5}, {"-3", -3},
+                                                   {"1e2", 100},  {"", 0},    {"abc", 0},   {".", 0}};
+    for (const auto& [text, number] : rows)
+        EXPECT_EQ(LeadingNumber(text), number) << text;
 }
 
 TEST(ReorderEntries, SortsAllPagesByNumberAndCompactsFromPage1)
@@ -140,7 +136,6 @@ TEST(ReorderEntries, TheOrderCommandAsksFirst)
     EXPECT_TRUE(Said(r.port.last(), "Do you want to reorder your entries based on the reference numbers below?",
                      "REORDER ENTRIES"));
     EXPECT_EQ(r.at(1, 5).InputTypeName, "Name");
-
     r.store.state.OrderPrompt = true;
     r.port.answer(Answer::Yes);
     ASSERT_TRUE(ReorderEntries(r.store, r.port));
@@ -154,12 +149,10 @@ TEST(FollowPartnerNumber, AConditionGivesItsNumberToTheRowBelowADownloadDoesNot)
     r.put(1, 4, "Followup With Dropdown", "5");
     FollowPartnerNumber(r.store, 1, 3);
     EXPECT_EQ(r.at(1, 4).ReferenceNumber, "12");
-
     r.put(2, 3, "Download Files With Password", "12");
     r.put(2, 4, "Followup Files With Password", "5");
     FollowPartnerNumber(r.store, 2, 3);
     EXPECT_EQ(r.at(2, 4).ReferenceNumber, "5");
-
     r.put(2, 24, "Condition With Comment", "3");
     FollowPartnerNumber(r.store, 2, 24); // no row below
     EXPECT_EQ(r.at(3, 0).ReferenceNumber, "51");

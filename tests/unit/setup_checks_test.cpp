@@ -259,19 +259,15 @@ TEST_F(LineChecks, AFaultyDefaultEmailAddressBecomesNone)
     EXPECT_EQ(lastValue, "none");
 }
 
-TEST_F(LineChecks, AFaultRestoresTheTextAndMarksTheCommit)
+TEST_F(LineChecks, AFaultRestoresTheTextAndAnEntryPreviewTestsNothing)
 {
+    EXPECT_EQ(Check("Title", "", 11), "");
+    EXPECT_FALSE(s.store.state.CommitFailed);
     tq::test::WriteFileBytes(dir.file("tempStore.txt"), "[Title=Before]\r\n");
     tq::test::WriteFileBytes(dir.file("temp11.txt"), "[Title=ab]\r\n");
     EXPECT_NE(Check("Title", "ab"), "");
     EXPECT_EQ(tq::test::ReadFileBytes(dir.file("temp11.txt")), "[Title=Before]\r\n");
     EXPECT_TRUE(s.store.state.CommitFailed);
-}
-
-TEST_F(LineChecks, AnEntryPreviewTestsNothing)
-{
-    EXPECT_EQ(Check("Title", "", 11), "");
-    EXPECT_FALSE(s.store.state.CommitFailed);
 }
 
 } // namespace

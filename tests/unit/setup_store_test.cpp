@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace tq;
 using store::SetupStore;
@@ -35,20 +36,17 @@ TEST(SetupFile, WritesSeventyEightLinesAndReadsThemBack)
     EXPECT_EQ(bytes.substr(0, 21), " 0) Site 0\r\n 0) https");
     EXPECT_EQ(lines[18], " 3) ");         // an empty field keeps its prefix alone
     EXPECT_EQ(lines[50], " 10) Site 10"); // rows above 9: a prefix one longer
-    EXPECT_EQ(lines[74], "");
-    EXPECT_EQ(lines[75], "1) /usr/bin/filezilla");
-    EXPECT_EQ(lines[76], "2) /usr/bin/bluefish");
-    EXPECT_EQ(lines[77], "3) /usr/bin/xdg-open");
+    EXPECT_EQ(std::vector<std::string>(lines.begin() + 74, lines.end()),
+              (std::vector<std::string>{"", "1) /usr/bin/filezilla", "2) /usr/bin/bluefish", "3) /usr/bin/xdg-open"}));
     EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
-
     SetupStore back;
     ASSERT_TRUE(store::ReadSetupFields(back, bytes));
-    for (size_t n = 0; n < back.rows.size(); ++n) {
-        EXPECT_EQ(back.rows[n].MenuName, s.rows[n].MenuName);
-        EXPECT_EQ(back.rows[n].WebServerPath, s.rows[n].WebServerPath); // ")" inside survives
-        EXPECT_EQ(back.rows[n].WebFolderPath, s.rows[n].WebFolderPath); // trailing blanks too
-        EXPECT_EQ(back.rows[n].EmailAddress, s.rows[n].EmailAddress);
-    }
+    // a ")" inside a value and trailing blanks survive
+    const auto fields = [](const store::SetupRow& r) {
+        return std::tie(r.MenuName, r.WebServerPath, r.WebFolderPath, r.EmailAddress);
+    };
+    for (size_t n = 0; n < back.rows.size(); ++n)
+        EXPECT_EQ(fields(back.rows[n]), fields(s.rows[n])) << n;
     EXPECT_EQ(store::SaveSetupFields(back), bytes);
 }
 
@@ -80,7 +78,6 @@ TEST_F(SetupFlow, InitialRowsAndMenus)
     store::ClearSetupRows(setup);
     EXPECT_TRUE(setup.rows[5].MenuName.empty());
     EXPECT_EQ(setup.rows[0].MenuName, "Test");
-
     setup.rows[2] = {"", "https://x", "/srv", "a@b", ""}; // paths but no name: hidden
     setup.rows[4].MenuName = "Shop";
     store::ApplySetupMenus(setup);
@@ -102,7 +99,6 @@ TEST_F(SetupFlow, ImportOfAShortFileFillsWhatItHas)
     EXPECT_EQ(setup.rows[1].MenuName, "Second");
     EXPECT_EQ(setup.rows[1].WebServerPath, "kept");
     EXPECT_TRUE(setup.siteMenus[1].visible);
-
     std::filesystem::remove(SetupPath());
     store::ImportSetup(setup, port, dir.path(), false);
     EXPECT_TRUE(
@@ -142,7 +138,6 @@ TEST_F(SetupFlow, ImportThenSaveAsDefaults)
                      "The new imported setup file was successfully saved\r\rThe settings on this page "
                      "will be your new defaults every time you run Tarnquill",
                      "DONE"));
-
     port.clear();
     port.answer(Answer::Yes);
     port.answer(Answer::No);
@@ -159,7 +154,6 @@ TEST_F(SetupFlow, BackupAndRestore)
                          "\rDOES NOT EXIST\r\rYOU MUST FIRST CREATE A BACKUP BEFORE YOU CAN RESTORE FROM A "
                          "BACKUP",
                      "NO BACKUP FOUND"));
-
     test::WriteFileBytes(SetupPath(), "first");
     store::BackupSetupPage(port, dir.path());
     EXPECT_EQ(port.last().text, "Backup complete");
@@ -192,12 +186,10 @@ TEST_F(SetupFlow, SortByNameUsesTheWholeTextAndCountsChangedNames)
                      "and Save as Default to keep these changes",
                      "ORDER UPDATED"));
     EXPECT_EQ(setup.rows[14].WebServerPath, "orphan"); // unused rows come behind, sorted too
-
     port.answer(Answer::Yes);
     store::SortSetupByName(setup, port, true);
     EXPECT_EQ(setup.rows[0].MenuName, "beta");
     EXPECT_EQ(setup.rows[2].MenuName, "alpha");
-
     port.answer(Answer::Yes);
     store::SortSetupByName(setup, port, true);
     EXPECT_TRUE(Said(port.last(), "The list does not require any changes.", "NO CHANGES NEEDED"));
@@ -209,7 +201,6 @@ TEST_F(SetupFlow, SortByNumber)
     store::SortSetupByNumber(setup, port, "FORM");
     EXPECT_TRUE(
         Said(port.last(), "Order number must be greater then 0 and contain a number from 1 to 15", "ORDER ERROR"));
-
     for (int n = 0; n < store::kSetupRows; ++n)
         setup.rows[static_cast<size_t>(n)].OrderNumber = std::to_string(n + 1);
     setup.rows[1].MenuName = "One";
@@ -237,7 +228,6 @@ TEST_F(SetupFlow, FindButtonsAndClipboard)
     store::FindToolPath(setup, port, store::ToolKind::WebEditor);
     EXPECT_EQ(port.last().text, "YOUR WEB EDITOR WILL BE\r/opt/web/editor SELECTED");
     EXPECT_EQ(setup.WebEditorPath, "/opt/web/editor");
-
     store::CopyFieldToClipboard(port, "/srv/www");
     EXPECT_EQ(port.clipboard, "/srv/www");
     EXPECT_EQ(port.last().text, "/srv/www\r\rhas been placed on the clipbaord");
@@ -260,7 +250,6 @@ TEST_F(SetupFlow, DataFolderIsAskedForUntilOneIsGiven)
     EXPECT_EQ(test::ReadFileBytes(fixed + "/Tarnquill.stt"), chosen + "\r\n");
     EXPECT_TRUE(std::filesystem::exists(chosen + "/FormHistory.txt"));
     EXPECT_TRUE(std::filesystem::exists(chosen + "/SurveyHistory.txt"));
-
     // a file where the folder should be can't be made into a folder
     test::WriteFileBytes(dir.file("blocker"), "x");
     std::filesystem::remove(fixed + "/Tarnquill.stt");

@@ -78,7 +78,6 @@ TEST(ShowFile, FourteenLinesRoundTripWithTheListMarksKept)
     EXPECT_EQ(ReadShowText(ShowFileText(defaults), read), 14);
     EXPECT_EQ(read, defaults);
     EXPECT_EQ(read.ImagesPerLine, "5 - default");
-
     ShowSettings edited = Edited("/tmp/x"), back;
     ReadShowText(ShowFileText(edited), back);
     EXPECT_EQ(back, edited);
@@ -92,19 +91,13 @@ TEST(ShowFile, ShortFileLeavesTheRestAndABadColourEndsTheRead)
     EXPECT_EQ(s.HomeLinkText, "LEAVE");
     EXPECT_EQ(s.ImageFolder, "/tmp/x");
     EXPECT_EQ(s.FadeDelay, "100");
-
     std::string text = ShowFileText(ShowSettings{});
     text.replace(text.rfind("16777215"), 8, "blue");
     s = Edited("/tmp/x");
     EXPECT_EQ(ReadShowText(text, s), 13);
     EXPECT_EQ(s.FadeDelay, "70 - default");
     EXPECT_EQ(s.BackgroundColor, 0x563412);
-
     EXPECT_EQ(ReadShowText("", s), 0);
-}
-
-TEST(ShowFile, RecentCaptionGivesThePathFromItsDriveMark)
-{
     EXPECT_EQ(ShowPathFromCaption("3. /home/me/shows/a.shw"), "/home/me/shows/a.shw");
     EXPECT_EQ(ShowPathFromCaption("12. junk /x.shw"), "/x.shw");
     EXPECT_EQ(ShowPathFromCaption("no mark"), "no mark");
@@ -117,7 +110,6 @@ TEST(ShowFile, SaveProposesTheNameInTheFolderAndAppendsHistoryEachTime)
     session.DataFolder = dir.path();
     session.photoShow.settings = Edited(dir.path() + "/");
     DialogPort port;
-
     const std::string name = dir.file("club.shw");
     port.file(name);
     ASSERT_TRUE(SaveShow(session, port));
@@ -127,14 +119,12 @@ TEST(ShowFile, SaveProposesTheNameInTheFolderAndAppendsHistoryEachTime)
     EXPECT_EQ(port.specs[0].filter, "Default Files (*.shw) | *.shw");
     EXPECT_EQ(ReadFileBytes(name), ShowFileText(session.photoShow.settings));
     EXPECT_EQ(session.run.LastFormFile, name);
-
     // the same name again: the question, Yes, and a second history line
     port.file(name);
     port.answer(Answer::Yes);
     ASSERT_TRUE(SaveShow(session, port));
     EXPECT_TRUE(Said(port.last(), "File " + name + "  already exists. Do you want to replace it?", "FILE EXIST"));
     EXPECT_EQ(ReadFileBytes(dir.file("history.txt")), name + "\r\n" + name + "\r\n");
-
     // No keeps the file; Cancel writes nothing
     session.photoShow.settings.BrowserTitle = "changed";
     port.file(name);
@@ -157,7 +147,6 @@ TEST(ShowFile, SaveAddsTheExtensionOnlyToANameWithoutOne)
     ASSERT_TRUE(SaveShow(session, port));
     EXPECT_TRUE(std::filesystem::exists(dir.file("plain.shw")));
     EXPECT_EQ(session.run.LastFormFile, dir.file("plain.shw"));
-
     port.file(dir.file("other.txt"));
     ASSERT_TRUE(SaveShow(session, port));
     EXPECT_TRUE(std::filesystem::exists(dir.file("other.txt")));
@@ -181,7 +170,6 @@ TEST(ShowFile, OpenReadsRunsTheFadeSwitchAndFillsTheOutputLine)
     EXPECT_EQ(session.photoShow.OutputLine, "https://club.example/photos/photoshow.php");
     EXPECT_EQ(session.run.GlobalFont, "arial");
     EXPECT_EQ(session.run.Bold, "off");
-
     session.photoShow.settings.UseFading = "yes";
     ApplyFadeSwitch(session.photoShow);
     EXPECT_TRUE(session.photoShow.fadeFieldsEnabled);
@@ -194,7 +182,6 @@ TEST(ShowFile, OpenCancelledSaysAbortedAndAMissingFileSaysNothing)
     port.file(std::nullopt);
     EXPECT_FALSE(OpenShow(session, "", port));
     EXPECT_TRUE(Said(port.last(), "ABORTED...", "ABORTED"));
-
     port.clear();
     EXPECT_FALSE(OpenShow(session, "/nonexistent/dir/x.shw", port));
     EXPECT_TRUE(port.shown.empty());
@@ -232,7 +219,6 @@ TEST(ShowValidate, EachCheckHasItsMessageAndTheFirstFailureWins)
         ASSERT_EQ(port.shown.size(), 1u) << c.text;
         EXPECT_TRUE(Said(port.last(), c.text, "ERROR"));
     }
-
     ShowSettings s;
     s.ImageFolder = missing;
     s.AllowZip = "bad"; // comes after the folder
@@ -241,7 +227,6 @@ TEST(ShowValidate, EachCheckHasItsMessageAndTheFirstFailureWins)
     ValidateShow(s, failed, port);
     EXPECT_TRUE(failed);
     EXPECT_EQ(port.last().text, missing + " DOES NOT EXIST\r\rCHECK THE FOLDER PATH AND TRY AGAIN");
-
     // upper-cased comparisons: list texts in any case pass
     s = ShowSettings{};
     s.ImageFolder = dir.path();
@@ -378,7 +363,6 @@ TEST_F(ShowBuild, ShowFromTheInstalledTemplateWithDoneOutputLineAndHistory)
     EXPECT_TRUE(session.photoShow.outputEnabled);
     EXPECT_EQ(session.photoShow.OutputLine, "https://club.example/photos/photoshow.php");
     EXPECT_EQ(ReadFileBytes(data.file("history.txt")), dir.path() + "/club.shw\r\n");
-
     // every template line accounted for: the rewritten lines, the rest copied
     const std::string tpl = ReadFileBytes(templatePath);
     const std::string out = ReadFileBytes(dir.file("photoshow.php"));
@@ -420,18 +404,15 @@ TEST_F(ShowBuild, StopsOnAFailedCheckOnCancelAndOnAnUnreadableTemplate)
     EXPECT_EQ(port.last().text, "1 IS NOT A VALID ENTRY");
     EXPECT_EQ(session.photoShow.OutputLine, "");
     EXPECT_FALSE(session.photoShow.outputEnabled);
-
     session.photoShow.settings.FadeSteps = "2";
     port.file(std::nullopt);
     EXPECT_FALSE(BuildShow(session, TQ_DATA_DIR, port));
     EXPECT_TRUE(Said(port.last(), "ABORTED...", "ABORTED"));
     EXPECT_TRUE(session.photoShow.outputEnabled); // enabled before the template is asked for
-
     port.clear();
     port.file("   ");
     EXPECT_FALSE(BuildShow(session, TQ_DATA_DIR, port));
     EXPECT_TRUE(port.messages().empty());
-
     const std::string gone = dir.file("nowhere/photodata.php");
     port.file(gone);
     EXPECT_FALSE(BuildShow(session, TQ_DATA_DIR, port));
@@ -461,7 +442,6 @@ TEST(ShowCommands, HelpInstructionsAndTheLiveShow)
     const std::string tail =
         " You can then select File and Recent and open up any of the files that you've saved in your history";
     EXPECT_EQ(port.last().text.substr(port.last().text.size() - tail.size()), tail);
-
     ShowPage page;
     page.settings.ImageFolder = "/srv/pics/";
     page.OutputLine = "https://club.example/photos/photoshow.php";

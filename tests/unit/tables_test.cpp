@@ -36,9 +36,8 @@ TEST(Tables, TextTableShowsRequiredAndOnlyTheNumberOfANumberedCaption)
     f.s.build.setupValues.NumberEachQuestion = "YES";
     html::WriteTableText(f.s, "table9", "ignored", "TABLE TEXT REQUIRED", "", "yes");
     EXPECT_EQ(f.Output(), Golden("survey/table_text_required_numbered.htm"));
-    ASSERT_EQ(f.s.build.messageLineCount, 2);
-    EXPECT_EQ(f.s.build.messageLines[1], "1. Service");
-    EXPECT_EQ(f.s.build.messageLines[2], "table9");
+    EXPECT_EQ(f.s.build.messageLineCount, 2);
+    EXPECT_EQ(f.s.build.messageLines[1] + " " + f.s.build.messageLines[2], "1. Service table9");
 }
 
 TEST(Tables, ChoicesTableInAWholePageIsADocumentOfItsOwnWithTheStarInTheCaption)

@@ -73,7 +73,6 @@ TEST_P(TemplateGolden, EveryTemplateOfTheModeStoresAsItsGoldenFile)
     for (std::string_view f : FollowupNames())
         ExpectStoredFormMatchesGolden(mode, f, FollowupTemplate(b.catalogue, f, mode));
     ExpectStoredFormMatchesGolden(mode, "Setup", b.catalogue.SetupTemplate);
-
     // one golden per template, and no stray golden files
     int files = 0;
     for (const auto& e : std::filesystem::directory_iterator(std::string(TQ_GOLDEN_DIR) + "/templates/" + mode))
@@ -93,12 +92,7 @@ TEST(Templates, LiteralOdditiesStayAsWritten)
     EXPECT_NE(FollowupTemplate(survey.catalogue, "Followup With Comment", "SURVEY")
                   .find("[Info: Enter Font Size]  [Align=center]"),
               std::string::npos);
-}
-
-TEST(Templates, TheStoredFormIsReadAloudByTheReaderInTemplateOrder)
-{
     // The leading blank of the FORM Followup With Multiple Choices is skipped.
-    NewCatalogue form("FORM");
     test::ScriptedPort port;
     std::string text = FollowupTemplate(form.catalogue, "Followup With Multiple Choices", "FORM");
     std::string value;

@@ -23,7 +23,6 @@ TEST(TextOps, NoCaseComparisonsAndSearches)
     EXPECT_FALSE(EqualsNoCase("Setup", "SETUPS"));
     EXPECT_TRUE(StartsWithNoCase("condition 1", "CONDITION"));
     EXPECT_FALSE(StartsWithNoCase("cond", "CONDITION"));
-
     EXPECT_EQ(FindNoCase("index.Htm.htm", ".HTM"), 5u);
     EXPECT_EQ(FindNoCase("index.Htm.htm", ".HTM", 6), 9u);
     EXPECT_EQ(FindNoCase("a.ht", ".HTM"), std::string_view::npos);
@@ -54,7 +53,6 @@ TEST(TextOps, ReplaceAllDoesNotSearchItsOwnReplacements)
     ReplaceAll(s, "\r\n", "\\n");
     ReplaceAll(s, "\n", "\\n");
     EXPECT_EQ(s, "a\\nb\\nc");
-
     s = "aXa";
     ReplaceAll(s, "a", "aa");
     EXPECT_EQ(s, "aaXaa");

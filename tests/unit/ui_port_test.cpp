@@ -7,15 +7,11 @@
 
 using namespace tq;
 
-TEST(UiPort, CarriageReturnsBecomeTheEdgesLineBreak)
+TEST(UiPort, LineBreaksAndPathsOfThePlatform)
 {
     EXPECT_EQ(ConvertLineBreaks("a\rb\r\rc", "\n"), "a\nb\n\nc");
     EXPECT_EQ(ConvertLineBreaks("a\r\nb", "<br>"), "a<br>b");
     EXPECT_EQ(ConvertLineBreaks("", "\n"), "");
-}
-
-TEST(Platform, JoinPathKeepsOneSeparator)
-{
     EXPECT_EQ(platform::JoinPath("/tmp/x", "\\setup.imp"), "/tmp/x/setup.imp");
     EXPECT_EQ(platform::JoinPath("/tmp/x/", "\\setup.imp"), "/tmp/x/setup.imp");
     EXPECT_EQ(platform::FindDriveMark("12 /home/a.fms"), 3u);

@@ -23,29 +23,23 @@ std::pair<int, int> Locate(int slot)
 
 TEST(LocateEntry, SlotsMapToPagesOfTwentyFiveRows)
 {
-    EXPECT_EQ(Locate(1), std::make_pair(1, 0));
-    EXPECT_EQ(Locate(3), std::make_pair(1, 1));
-    EXPECT_EQ(Locate(49), std::make_pair(1, 24));
-    EXPECT_EQ(Locate(50), std::make_pair(1, 24));
-    EXPECT_EQ(Locate(51), std::make_pair(2, 0));
-    EXPECT_EQ(Locate(101), std::make_pair(3, 0));
-    EXPECT_EQ(Locate(151), std::make_pair(4, 0));
-    EXPECT_EQ(Locate(199), std::make_pair(4, 24));
+    // two slots a row (type and text), 25 rows a Page
+    for (int slot = 1; slot <= 200; ++slot) {
+        const int k = (slot + 1) / 2;
+        EXPECT_EQ(Locate(slot), std::make_pair((k - 1) / 25 + 1, (k - 1) % 25)) << slot;
+    }
 }
 
 TEST(FixLineBreaks, JoinsTheLinesWithNothingBetween)
 {
-    std::string text = "[Title=A]\r\n\r\n[Info: x]\r\n";
-    FixLineBreaks(text);
-    EXPECT_EQ(text, "[Title=A][Info: x]");
-
-    text = "a\r\r\n\nb"; // the pair that a removal brings together goes too
-    FixLineBreaks(text);
-    EXPECT_EQ(text, "ab");
-
-    text = "a\n\rb\r";
-    FixLineBreaks(text);
-    EXPECT_EQ(text, "a\n\rb\r");
+    const std::pair<std::string, std::string> rows[] = {
+        {"[Title=A]\r\n\r\n[Info: x]\r\n", "[Title=A][Info: x]"},
+        {"a\r\r\n\nb", "ab"}, // the pair that a removal brings together goes too
+        {"a\n\rb\r", "a\n\rb\r"}};
+    for (auto [text, joined] : rows) {
+        FixLineBreaks(text);
+        EXPECT_EQ(text, joined);
+    }
 }
 
 TEST(Reports, UnknownTypeShowsThePageAndTheStopBox)
@@ -111,12 +105,10 @@ TEST(Pairs, AConditionKeepsItsFollowupBehindIt)
     page[4] = {"Followup With Comment", "", "8"};
     EXPECT_TRUE(KeepPairTogether(store, 2, 3));
     EXPECT_EQ(page[4].ReferenceNumber, "7");
-
     page[6] = {"Download Files With Password", "", "9"};
     page[7] = {"Followup Files With Password", "", "10"};
     EXPECT_FALSE(KeepPairTogether(store, 2, 6)); // the download test never holds
     EXPECT_EQ(page[7].ReferenceNumber, "10");
-
     page[24] = {"condition with dropdown", "", "3"};
     EXPECT_FALSE(KeepPairTogether(store, 2, 24)); // no row below
 }

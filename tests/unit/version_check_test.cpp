@@ -51,7 +51,6 @@ TEST(VersionCheck, EmptyBodyAndTransferFailureHaveTheirOwnMessages)
     empty.http(std::string());
     shell::CheckForUpdate(empty, kUrl, kPage);
     EXPECT_TRUE(Said(empty.last(), "Cannot retrieve the revision from the website", "ERROR", Icon::Critical));
-
     test::ScriptedPort down;
     down.http(std::nullopt);
     shell::CheckForUpdate(down, kUrl, kPage);
