@@ -4,8 +4,6 @@
 #include "final_page.h"
 #include "gui_test_support.h"
 #include "main_window.h"
-#include "model/catalogue.h"
-#include "store/project_file.h"
 
 #include <QApplication>
 #include <QDir>
@@ -18,37 +16,6 @@
 
 using namespace tq::gui;
 
-namespace {
-
-// Puts `type` with its default text into a row, as an add would.
-void PutRow(MainWindow& w, int page, int row, const std::string& type)
-{
-    auto& s = w.session();
-    auto& e = s.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
-    e.InputTypeName = type;
-    e.AttributeText = tq::model::DefaultTemplateFor(s.catalogue, type, s.store.state.ProjectMode) + "\r\n";
-    tq::store::RefreshRowEditFlags(s.store);
-    w.refreshAll();
-}
-
-// Points the SetupEntry at a new web folder and takes away the sample marks
-// (";") that stop a build until the user replaces them.
-QString UseWebFolder(test::StartedWindow& app)
-{
-    const QString web = app.docs.filePath("web");
-    QDir().mkpath(web);
-    auto& setup = app.w->session().store.pages[0][0].AttributeText;
-    const auto at = setup.find("c:\\users");
-    if (at == std::string::npos)
-        return {};
-    setup.replace(at, 8, web.toStdString());
-    for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
-        setup.erase(mark + 1, 1);
-    return web;
-}
-
-} // namespace
-
 class BuildTest : public QObject
 {
     Q_OBJECT
@@ -58,11 +25,10 @@ class BuildTest : public QObject
         test::StartedWindow app;
         QVERIFY(app.started);
         MainWindow& w = *app.w;
-        PutRow(w, 1, 1, "Name");
-        PutRow(w, 1, 2, "Email");
-        const QString web = UseWebFolder(app);
+        app.put(1, 1, "Name");
+        app.put(1, 2, "Email");
+        const QString web = app.useWebFolder();
         QVERIFY(!web.isEmpty());
-
         test::DialogScript script;
         QVERIFY(test::Trigger(&w, "CreateFormOnly"));
         QVERIFY2(script.seen.isEmpty(), qPrintable(script.seen.join(" | ")));
@@ -84,9 +50,9 @@ class BuildTest : public QObject
             QSKIP("php is not installed");
         test::StartedWindow app;
         MainWindow& w = *app.w;
-        PutRow(w, 1, 1, "Name");
-        PutRow(w, 1, 2, "Cell Phone Number");
-        QVERIFY(!UseWebFolder(app).isEmpty());
+        app.put(1, 1, "Name");
+        app.put(1, 2, "Cell Phone Number");
+        QVERIFY(!app.useWebFolder().isEmpty());
         test::DialogScript script;
         QVERIFY(test::Trigger(&w, "CreateFormOnly"));
         QVERIFY2(script.seen.isEmpty(), qPrintable(script.seen.join(" | ")));
@@ -95,7 +61,6 @@ class BuildTest : public QObject
         QVERIFY(warning->isVisible());
         QVERIFY2(warning->text().contains("Cell Phone Number"), qPrintable(warning->text()));
         test::SaveScreenshot(&w, "final_page_publish_check");
-
         // the page's own button and its Build menu both start the local test
         int started = 0;
         w.registerCommand("TestLocally", [&started] { ++started; });
@@ -126,7 +91,7 @@ class BuildTest : public QObject
     {
         test::StartedWindow app;
         MainWindow& w = *app.w;
-        PutRow(w, 2, 3, "Name");
+        app.put(2, 3, "Name");
         w.showView(tq::View::Page2);
         auto* page = w.createPage(2);
         QVERIFY(!page->findChild<QPushButton*>("Edit4")->isEnabled());

@@ -8,11 +8,8 @@
 #include "final_page.h"
 #include "gui_test_support.h"
 #include "main_window.h"
-#include "model/attribute_text.h"
 #include "model/catalogue.h"
 #include "preview_window.h"
-#include "shell/quiet_port.h"
-#include "store/project_file.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -33,33 +30,6 @@
 using namespace tq::gui;
 
 namespace {
-
-// Puts `type` with its default text, in the stored form, into a row.
-void PutRow(MainWindow& w, int page, int row, const std::string& type)
-{
-    auto& s = w.session();
-    auto& e = s.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
-    tq::shell::QuietPort quiet;
-    e.InputTypeName = type;
-    e.AttributeText = tq::model::NormalizeAttributeText(
-        quiet, tq::model::DefaultTemplateFor(s.catalogue, type, s.store.state.ProjectMode));
-    tq::store::RefreshRowEditFlags(s.store);
-    w.refreshAll();
-}
-
-// Points the SetupEntry at a fresh web folder and removes the sample marks.
-QString UseWebFolder(tq::gui::test::StartedWindow& app)
-{
-    const QString web = app.docs.filePath("web");
-    QDir().mkpath(web);
-    auto& setup = app.w->session().store.pages[0][0].AttributeText;
-    const auto at = setup.find("c:\\users");
-    if (at != std::string::npos)
-        setup.replace(at, 8, web.toStdString());
-    for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
-        setup.erase(mark + 1, 1);
-    return web;
-}
 
 EditPage* OpenEdit(MainWindow& w, int page, int row)
 {
@@ -84,7 +54,7 @@ class EditPageTest : public QObject
     {
         test::StartedWindow app;
         MainWindow& w = *app.w;
-        PutRow(w, 1, 1, "Name");
+        app.put(1, 1, "Name");
         EditPage* edit = OpenEdit(w, 1, 1);
         QCOMPARE(w.currentView(), tq::View::EditPage);
         QCOMPARE(edit->findChild<QLabel*>("lblEditCaption")->text(),
@@ -115,7 +85,7 @@ class EditPageTest : public QObject
         auto& s = w.session();
         s.store.state.ProjectMode = "SURVEY";
         tq::model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
-        PutRow(w, 1, 1, "Title Shade");
+        app.put(1, 1, "Title Shade");
         auto& text = w.session().store.pages[0][1].AttributeText;
         const auto at = text.find("Title Shade Width=");
         QVERIFY(at != std::string::npos);
@@ -135,7 +105,6 @@ class EditPageTest : public QObject
         QCOMPARE(w.focusWidget(), edit->valueWidget(row));
         QCOMPARE(w.session().store.pages[0][1].AttributeText, before);
         test::SaveScreenshot(&w, "edit_page_failed_row");
-
         // Abort with errors asks first; No stays, Yes leaves the text as it was
         script.press(QMessageBox::No);
         QVERIFY(test::Trigger(&w, "Abort"));
@@ -152,7 +121,7 @@ class EditPageTest : public QObject
     {
         test::StartedWindow app;
         MainWindow& w = *app.w;
-        UseWebFolder(app);
+        app.useWebFolder();
         EditPage* edit = OpenEdit(w, 1, 0);
         test::SaveScreenshot(&w, "edit_page_setup");
         const int row = edit->rowOf("Frame Color");
@@ -177,8 +146,8 @@ class EditPageTest : public QObject
     {
         test::StartedWindow app;
         MainWindow& w = *app.w;
-        PutRow(w, 1, 1, "Condition With Comment");
-        PutRow(w, 1, 2, "Followup With Comment");
+        app.put(1, 1, "Condition With Comment");
+        app.put(1, 2, "Followup With Comment");
         EditPage* edit = OpenEdit(w, 1, 1);
         test::SaveScreenshot(&w, "edit_page_condition");
         QVERIFY(test::Trigger(&w, "Preview"));
@@ -201,8 +170,8 @@ class EditPageTest : public QObject
     {
         test::StartedWindow app;
         MainWindow& w = *app.w;
-        PutRow(w, 1, 1, "Name");
-        UseWebFolder(app);
+        app.put(1, 1, "Name");
+        app.useWebFolder();
         QVERIFY(test::Trigger(&w, "CreateFormOnly"));
         QCOMPARE(w.currentView(), tq::View::FinalPage);
         FinalPage* page = w.finalPage();
@@ -215,7 +184,6 @@ class EditPageTest : public QObject
         QVERIFY(page->instructionBox()->toPlainText().contains("2. On the bottom left screen select Copy FORM data"));
         QVERIFY(page->codeBox()->toPlainText().contains("Enter your full name"));
         test::SaveScreenshot(&w, "final_page_form");
-
         test::DialogScript script;
         script.press(QMessageBox::Ok);
         page->findChild<QPushButton*>("CopyCode")->click();
@@ -236,9 +204,9 @@ class EditPageTest : public QObject
         auto& s = w.session();
         s.store.state.ProjectMode = "SURVEY";
         tq::model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
-        PutRow(w, 1, 0, "Setup");
-        PutRow(w, 1, 1, "Name");
-        UseWebFolder(app);
+        app.put(1, 0, "Setup");
+        app.put(1, 1, "Name");
+        app.useWebFolder();
         test::DialogScript script;
         // the first preview may meet a cold engine, the second a warm one
         for (int round = 0; round < 2; ++round) {
@@ -281,7 +249,7 @@ class EditPageTest : public QObject
         for (const auto& name : names) {
             if (name.empty())
                 continue;
-            PutRow(w, 1, 1, name);
+            app.put(1, 1, name);
             QElapsedTimer clock;
             clock.start();
             w.editPage()->open(1, 1);

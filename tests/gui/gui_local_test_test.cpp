@@ -108,7 +108,6 @@ class LocalTestWindowTest : public QObject
         QVERIFY(QTest::qWaitForWindowExposed(&w));
         QVERIFY(loaded.wait(20000));
         QCOMPARE(loaded.last().at(0).toBool(), true);
-
         const QVariant filled =
             RunJs(w.view(), "var f = document.forms[0]; var n = [];"
                             "f.querySelectorAll('input[type=text], textarea').forEach(function (t) {"

@@ -80,19 +80,16 @@ class PhotoShowPageTest : public QObject
         QCOMPARE(Child<QLineEdit>(&page, "HomeFile")->text(), QString("index.htm"));
         QCOMPARE(Child<QComboBox>(&page, "ImagesPerLine")->currentText(), QString("5 - default"));
         QCOMPARE(Child<QComboBox>(&page, "FadeDelay")->count(), 11);
-
         auto* title = Child<QLineEdit>(&page, "BrowserTitle");
         title->selectAll();
         QTest::keyClicks(title, "Our Trip");
         QCOMPARE(s.photoShow.settings.BrowserTitle, std::string("Our Trip"));
-
         Child<QComboBox>(&page, "UseFading")->setCurrentText("NO");
         QCOMPARE(s.photoShow.settings.UseFading, std::string("NO"));
         for (const char* name : {"FadeMode", "FadeSteps", "FadeDelay"})
             QVERIFY2(!Child<QComboBox>(&page, name)->isEnabled(), name);
         Child<QComboBox>(&page, "UseFading")->setCurrentText("YES");
         QVERIFY(Child<QComboBox>(&page, "FadeSteps")->isEnabled());
-
         // the colour dialog sets the colour (red in the low byte) and the sample panel
         test::AnswerNextDialog([](QWidget* w) {
             auto* dlg = qobject_cast<QColorDialog*>(w);
@@ -103,13 +100,11 @@ class PhotoShowPageTest : public QObject
         Child<QPushButton>(&page, "BackgroundColor")->click();
         QCOMPARE(s.photoShow.settings.BackgroundColor, 0x302010L);
         QVERIFY(Child<QFrame>(&page, "BackgroundSample")->styleSheet().contains("rgb(16, 32, 48)"));
-
         // commands that need a build wait for one; the recent slots keep their names
         QVERIFY(!Child<QPushButton>(&page, "ViewShowLive")->isEnabled());
         QVERIFY(page.findChild<QAction*>("History100"));
         QVERIFY(!page.findChild<QAction*>("History10"));
         QVERIFY(page.findChild<QAction*>("History15"));
-
         QString help;
         AcceptBox(help);
         page.runCommand("Help");
@@ -145,7 +140,6 @@ class PhotoShowPageTest : public QObject
         QVERIFY(pic.open(QIODevice::WriteOnly));
         pic.write("not really a picture");
         pic.close();
-
         tq::Session s;
         s.DataFolder = data.path().toStdString();
         FilePort port;
@@ -154,13 +148,11 @@ class PhotoShowPageTest : public QObject
         page.resize(1100, 860);
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
-
         auto* folder = Child<QLineEdit>(&page, "ImageFolder");
         folder->setText(images.path());
         Child<QLineEdit>(&page, "ShowFileName")->setText("trip.shw");
         Child<QComboBox>(&page, "ColumnsPerLine")->setCurrentText("4");
         Child<QComboBox>(&page, "FadeMode")->setCurrentText("square");
-
         const QString file = images.filePath("trip.shw");
         port.files << file;
         QVERIFY(test::Trigger(&page, "Save"));
@@ -173,7 +165,6 @@ class PhotoShowPageTest : public QObject
         }();
         QVERIFY(bytes.contains("\r\n5 - default\r\n4\r\nYES\r\nImage Browser\r\nsquare\r\n6 - default\r\n"));
         QVERIFY(s.run.photoMenu[0].visible);
-
         // change the page, then take the show back from the Recent menu
         folder->setText("/somewhere/else");
         Child<QComboBox>(&page, "ColumnsPerLine")->setCurrentText("8");
@@ -182,7 +173,6 @@ class PhotoShowPageTest : public QObject
         QCOMPARE(Child<QComboBox>(&page, "ColumnsPerLine")->currentText(), QString("4"));
         QCOMPARE(Child<QComboBox>(&page, "ImagesPerLine")->currentText(), QString("5 - default"));
         QCOMPARE(s.photoShow.settings.FadeMode, std::string("square"));
-
         // BUILD PHOTO SHOW asks for the template, writes the show and says DONE
         QString done;
         port.files << QString(TQ_DATA_DIR) + "/photodata.php";

@@ -41,7 +41,6 @@ class SetupPageTest : public QObject
         QTest::keyClicks(w.setupPage()->findChild<QLineEdit*>("txtWebFolderPath1"), "/srv/shop");
         QCOMPARE(QString::fromStdString(w.session().setup.rows[1].MenuName), QString("Shop"));
         test::SaveScreenshot(&w, "setup_page");
-
         {
             test::DialogScript script;
             script.press(QMessageBox::Yes).press(QMessageBox::Ok);
@@ -63,7 +62,6 @@ class SetupPageTest : public QObject
             QVERIFY(page->findChild<QAction*>("Web2")->isVisible());
             QVERIFY(page->findChild<QAction*>("LivePreview2")->isVisible());
         }
-
         w.runCommand("SetupExit");
         QCOMPARE(w.currentView(), tq::View::StartPage);
     }
@@ -95,7 +93,6 @@ class SetupPageTest : public QObject
             QCOMPARE(script.seen, QStringList{"DONE: " + folder->text() + "\n\nhas been placed on the clipbaord"});
         }
         QCOMPARE(QApplication::clipboard()->text(), folder->text());
-
         const QString program = app.data + "/browser";
         QFile f(program);
         QVERIFY(f.open(QIODevice::WriteOnly));

@@ -64,7 +64,6 @@ class StartPageTest : public QObject
         QCOMPARE(QString::fromStdString(w.session().DataFolder), data);
         QVERIFY(QFile::exists(docs.filePath("tarnquill/forms/Tarnquill.stt")));
         QVERIFY(QFile::exists(data + "/FormHistory.txt"));
-
         w.show();
         QVERIFY(QTest::qWaitForWindowExposed(&w));
         QCOMPARE(w.currentView(), tq::View::StartPage);
@@ -84,7 +83,6 @@ class StartPageTest : public QObject
         QVERIFY(w.session().store.pages[0][1].InputTypeName.empty());
         QCOMPARE(QString::fromStdString(w.session().store.pages[3][24].ReferenceNumber), QString("100"));
         test::SaveScreenshot(&w, "start_page");
-
         // Edit shows Page 1 with the focus on its first row
         QVERIFY(test::Trigger(&w, "ViewFormSurvey"));
         QCOMPARE(w.currentView(), tq::View::Page1);
@@ -102,9 +100,7 @@ class StartPageTest : public QObject
     void startIsQuickWithAKnownFolder()
     {
         QTemporaryDir docs;
-        QDir().mkpath(docs.filePath("tarnquill/forms"));
-        QDir().mkpath(docs.filePath("data"));
-        WriteFile(docs.filePath("tarnquill/forms/Tarnquill.stt"), docs.filePath("data").toUtf8() + "\r\n");
+        test::PointAtDataFolder(docs);
         QElapsedTimer clock;
         clock.start();
         MainWindow w(docs.path());
@@ -142,15 +138,11 @@ class StartPageTest : public QObject
     void closingTheStartPageRemovesTheScratchFilesButExitDoesNot()
     {
         QTemporaryDir docs;
-        QDir().mkpath(docs.filePath("tarnquill/forms"));
-        const QString data = docs.filePath("data");
-        QDir().mkpath(data);
-        WriteFile(docs.filePath("tarnquill/forms/Tarnquill.stt"), data.toUtf8() + "\r\n");
+        const QString data = test::PointAtDataFolder(docs);
         const QStringList scratch{"temp.txt", "temp11.txt", "downtemp.txt", "browsetemp.txt", "Preview.htm"};
         for (const QString& name : scratch)
             WriteFile(data + "/" + name, "x\r\n");
         WriteFile(data + "/keep.fms", "x\r\n");
-
         MainWindow w(docs.path());
         bool ended = false;
         w.onExit = [&] { ended = true; };

@@ -2,6 +2,10 @@
 #include "gui_test_support.h"
 
 #include "main_window.h"
+#include "model/attribute_text.h"
+#include "model/catalogue.h"
+#include "shell/quiet_port.h"
+#include "store/project_file.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -19,14 +23,19 @@
 
 namespace tq::gui::test {
 
-StartedWindow::StartedWindow() : data(docs.filePath("data"))
+QString PointAtDataFolder(const QTemporaryDir& docs)
 {
+    const QString data = docs.filePath("data");
     QDir().mkpath(docs.filePath("tarnquill/forms"));
     QDir().mkpath(data);
     QFile stt(docs.filePath("tarnquill/forms/Tarnquill.stt"));
     if (stt.open(QIODevice::WriteOnly))
         stt.write(data.toUtf8() + "\r\n");
-    stt.close();
+    return data;
+}
+
+StartedWindow::StartedWindow() : data(PointAtDataFolder(docs))
+{
     w = std::make_unique<MainWindow>(docs.path());
     w->onExit = [] {};
     started = w->start();
@@ -44,6 +53,40 @@ const model::Entry& StartedWindow::at(int page, int row) const
 QString StartedWindow::name(int page, int row) const
 {
     return QString::fromStdString(at(page, row).InputTypeName);
+}
+
+QStringList StartedWindow::names(int page, int first, int last) const
+{
+    QStringList out;
+    for (int row = first; row <= last; ++row)
+        out << name(page, row);
+    return out;
+}
+
+void StartedWindow::put(int page, int row, const std::string& type)
+{
+    auto& s = w->session();
+    auto& e = s.store.pages[static_cast<size_t>(page - 1)][static_cast<size_t>(row)];
+    tq::shell::QuietPort quiet;
+    e.InputTypeName = type;
+    e.AttributeText = tq::model::NormalizeAttributeText(
+        quiet, tq::model::DefaultTemplateFor(s.catalogue, type, s.store.state.ProjectMode));
+    tq::store::RefreshRowEditFlags(s.store);
+    w->refreshAll();
+}
+
+QString StartedWindow::useWebFolder()
+{
+    const QString web = docs.filePath("web");
+    QDir().mkpath(web);
+    auto& setup = w->session().store.pages[0][0].AttributeText;
+    const auto at = setup.find("c:\\users");
+    if (at == std::string::npos)
+        return {};
+    setup.replace(at, 8, web.toStdString());
+    for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
+        setup.erase(mark + 1, 1);
+    return web;
 }
 
 QString SaveScreenshot(QWidget* w, const QString& name)

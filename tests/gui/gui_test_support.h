@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <functional>
 #include <memory>
+#include <string>
 
 class QWidget;
 class QAction;
@@ -21,6 +22,10 @@ class MainWindow;
 }
 
 namespace tq::gui::test {
+
+/// Writes the folder pointer of `docs` so that it names `docs`/data, and
+/// makes both folders; returns the data folder.
+QString PointAtDataFolder(const QTemporaryDir& docs);
 
 /// A main window started on a temporary DataFolder that the folder pointer
 /// already names, shown, with ConfirmExit ending nothing.
@@ -37,6 +42,13 @@ struct StartedWindow
     const model::Entry& at(int page, int row) const;
     /// Its Input Type name.
     QString name(int page, int row) const;
+    /// The names of rows `first`..`last` of `page`.
+    QStringList names(int page, int first, int last) const;
+    /// Puts `type` with its default text, in the stored form, into a row, as an add would.
+    void put(int page, int row, const std::string& type);
+    /// Points the SetupEntry at a new folder docs/web and takes away the sample
+    /// marks (";") that stop a build; empty when the SetupEntry has no sample folder.
+    QString useWebFolder();
 };
 
 /// Saves a picture of `w` as artifacts/<name>.png for review.

@@ -63,17 +63,14 @@ class ToolCommandsTest : public QObject
         QtPort port(nullptr);
         QHash<QString, std::function<void()>> commands;
         RegisterToolCommands(commands, s, port);
-
         const QString ftpFolder = dir.filePath("ftp tools/bin");
         s.setup.FTPProgramPath = WriteRecorder(ftpFolder + "/ftp.sh", dir.filePath("ftp.txt")).toStdString();
         commands["FTP"]();
         QCOMPARE(ReadRecord(dir.filePath("ftp.txt")), ftpFolder + "\n");
-
         s.setup.WebEditorPath = WriteRecorder(dir.filePath("edit.sh"), dir.filePath("edit.txt")).toStdString();
         s.setup.rows[2].WebFolderPath = "/home/me/My Web Sites/club";
         commands["Web3"]();
         QVERIFY(ReadRecord(dir.filePath("edit.txt")).endsWith("\narg:/home/me/My Web Sites/club\n"));
-
         s.setup.BrowserPath = WriteRecorder(dir.filePath("browse.sh"), dir.filePath("browse.txt")).toStdString();
         s.setup.rows[14].WebServerPath = "https://club.example/index.htm";
         commands["LivePreview15"]();

@@ -60,7 +60,6 @@ class VersionCheckGuiTest : public QObject
         TinyHttpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
         QString url = QString("http://127.0.0.1:%1/tarnquill/download/revision.txt").arg(server.serverPort());
-
         const QString report = "Current version : 2.00.0002\nLatest Version    : ";
         const QString offer = "\n\nA new version is available. Would you like to download the new version?\n\n"
                               "Note: Exit Tarnquill before installing the new version of Tarnquill";
