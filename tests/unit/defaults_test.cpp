@@ -27,7 +27,7 @@ class Defaults : public ::testing::Test
 
 } // namespace
 
-TEST_F(Defaults, SaveWritesTheRawPassAndLeavesStatusAndListsAlone)
+TEST_F(Defaults, SaveWritesTheRawPassAndARestoreBringsItBackAsOneRow)
 {
     const std::string path = dir.file("default.txt");
     port.file(path);
@@ -46,21 +46,15 @@ TEST_F(Defaults, SaveWritesTheRawPassAndLeavesStatusAndListsAlone)
     port.answer(Answer::No);
     EXPECT_FALSE(store::SaveDefaults(s, port, false));
     EXPECT_EQ(port.last().title, "FILE EXIST");
-}
-
-TEST_F(Defaults, RestoreOfARawFileComesBackAsOneRow)
-{
-    const std::string path = dir.file("default.txt");
-    port.file(path);
-    ASSERT_TRUE(store::SaveDefaults(s, port, false));
+    // a restore of the raw file comes back as one row
     Session t;
     t.DataFolder = dir.path();
     t.run.GlobalFont = "verdana";
     bool filled = false;
-    store::DefaultsHooks hooks;
-    hooks.fillPickLists = [&](Session&) { filled = true; };
+    store::DefaultsHooks restore;
+    restore.fillPickLists = [&](Session&) { filled = true; };
     port.file(path);
-    ASSERT_TRUE(store::RestoreDefaults(t, port, hooks));
+    ASSERT_TRUE(store::RestoreDefaults(t, port, restore));
     EXPECT_TRUE(filled);
     EXPECT_EQ(t.store.pages[0][0].InputTypeName, ">>Setup");
     // the first attribute line is dropped, the rest is one block

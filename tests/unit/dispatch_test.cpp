@@ -92,7 +92,7 @@ TEST(DispatchTable, ConditionFieldIsSetByChoicesAndConditionsButNotTablesNorSurv
     EXPECT_FALSE(SetsConditionField(LookUpEntry("Name").writer, false));
 }
 
-TEST_P(BothModes, HorizontalLineRunsWidthIntoNoshade)
+TEST_P(BothModes, HorizontalLineAndTitleShade)
 {
     auto s = MakeSession(GetParam());
     auto& v = s->build.values;
@@ -101,12 +101,6 @@ TEST_P(BothModes, HorizontalLineRunsWidthIntoNoshade)
     v.LineWidth = "50%";
     v.LineColorHex = "FF0000";
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteHorizontalLine(*s); }), Golden("horizontal_line.htm"));
-}
-
-TEST_P(BothModes, TitleShadeWritesEachTitleLineAndBreaksUnlessCentred)
-{
-    auto s = MakeSession(GetParam());
-    auto& v = s->build.values;
     v.Title = "Our Services\\nand Prices";
     v.TitleShadeWidth = "100%";
     v.ALIGN = "left";
@@ -125,7 +119,7 @@ TEST_P(BothModes, TitleShadeWritesEachTitleLineAndBreaksUnlessCentred)
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteTitleShade(*s); }), Golden("title_shade_center.htm"));
 }
 
-TEST_P(BothModes, BlankLineWritesOneBreakPerCount)
+TEST_P(BothModes, BlankLineBreaksAndAnUnknownVideoSuffix)
 {
     auto s = MakeSession(GetParam());
     s->build.values.NewLine = "3";
@@ -136,11 +130,6 @@ TEST_P(BothModes, BlankLineWritesOneBreakPerCount)
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), "");
     s->build.values.NewLine = "40000"; // past the format's counter
     EXPECT_THROW(Capture(*s, [&] { tq::html::WriteBlankLine(*s); }), tq::model::InternalError);
-}
-
-TEST_P(BothModes, AnUnknownVideoSuffixIsToldAndWritesNothingWhileNoneIsSilent)
-{
-    auto s = MakeSession(GetParam());
     ScriptedPort port;
     SetVideo(s->build.values, "https://www.tarnquill.example/clip.mov");
     EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), "");

@@ -70,10 +70,11 @@ struct FaultPlan
     }
 };
 
-/// The hook that runs `plan`, which the test keeps to look at afterwards.
-ScopedWriteHook Install(FaultPlan& plan)
+/// Runs `write` with the writes failing as `plan` says; the test keeps the plan to look at afterwards.
+template <typename F> void WithFault(FaultPlan& plan, F write)
 {
-    return ScopedWriteHook([&plan](WriteStep step, const std::string& path) { return plan(step, path); });
+    ScopedWriteHook hook([&plan](WriteStep step, const std::string& path) { return plan(step, path); });
+    write();
 }
 
 /// No temporary file is left in `folder`.
@@ -124,12 +125,11 @@ TEST_P(FailedWrite, WriteFileReplacingKeepsTheOldFileAndSetsErrno)
     const std::string file = work + "/kept.txt";
     WriteFileBytes(file, kOldBytes);
     FaultPlan plan{GetParam(), work};
-    {
-        auto hook = Install(plan);
+    WithFault(plan, [&] {
         errno = 0;
         EXPECT_FALSE(tq::store::WriteFileReplacing(file, std::string(100000, 'x')));
         EXPECT_EQ(std::string(std::strerror(errno)), ErrorText(GetParam()));
-    }
+    });
     EXPECT_GT(plan.asked, 0);
     EXPECT_EQ(ReadFileBytes(plan.now(file)), kOldBytes);
     if (GetParam() != Fault::FolderGone)
@@ -148,10 +148,7 @@ TEST_P(FailedWrite, AProjectSaveKeepsTheOldProjectWithoutAWord)
     port.file(file);
     port.answer(Answer::Yes); // FILE EXIST
     FaultPlan plan{GetParam(), work, 0};
-    {
-        auto hook = Install(plan);
-        EXPECT_FALSE(tq::store::SaveProject(s, port, "fms"));
-    }
+    WithFault(plan, [&] { EXPECT_FALSE(tq::store::SaveProject(s, port, "fms")); });
     EXPECT_TRUE(port.messages().empty()); // the save has no message of its own
     EXPECT_EQ(ReadFileBytes(plan.now(file)), kOldBytes);
     EXPECT_EQ(s.store.state.CurrentFileName, "");
@@ -166,10 +163,7 @@ TEST_P(FailedWrite, ASetupExportKeepsTheOldSetupAndRaisesTheResultFlag)
     setup.rows[0].MenuName = "Club";
     port.answer(Answer::Yes); // FILE EXIST
     FaultPlan plan{GetParam(), work};
-    {
-        auto hook = Install(plan);
-        tq::store::ExportSetup(setup, port, work);
-    }
+    WithFault(plan, [&] { tq::store::ExportSetup(setup, port, work); });
     EXPECT_EQ(setup.resultFlag, 1);
     EXPECT_TRUE(port.messages().empty());
     EXPECT_EQ(ReadFileBytes(plan.now(work + "/setup.imp")), kOldBytes);
@@ -185,10 +179,7 @@ TEST_P(FailedWrite, AShowSaveKeepsTheOldShowAndTellsTheFault)
     port.file(file);
     port.answer(Answer::Yes); // FILE EXIST
     FaultPlan plan{GetParam(), work};
-    {
-        auto hook = Install(plan);
-        EXPECT_FALSE(tq::show::SaveShow(s, port));
-    }
+    WithFault(plan, [&] { EXPECT_FALSE(tq::show::SaveShow(s, port)); });
     ASSERT_EQ(port.messages().size(), 1u);
     EXPECT_TRUE(Said(port.last(), ErrorText(GetParam()) + " when writing " + file, "ERROR"));
     EXPECT_EQ(ReadFileBytes(plan.now(file)), kOldBytes);
@@ -231,10 +222,7 @@ TEST_P(FailedWrite, ABuildKeepsTheOldOutputFilesAndStops)
     const std::string work = Work();
     Built b(work, dir.path(), port);
     FaultPlan plan{GetParam(), work, 2};
-    {
-        auto hook = Install(plan);
-        tq::build::CreateFormOnly(*b.s, port);
-    }
+    WithFault(plan, [&] { tq::build::CreateFormOnly(*b.s, port); });
     EXPECT_EQ(b.s->build.buildError, 1);
     ASSERT_FALSE(port.messages().empty());
     EXPECT_EQ(port.last().title, "UNRECOVERABLE ERROR. CONTACT SUPPORT");

@@ -134,15 +134,8 @@ TEST(ShowFile, SaveProposesTheNameInTheFolderAndAppendsHistoryEachTime)
     EXPECT_FALSE(SaveShow(session, port));
     EXPECT_EQ(ReadFileBytes(name).find("changed"), std::string::npos);
     EXPECT_TRUE(port.messages().empty());
-}
-
-TEST(ShowFile, SaveAddsTheExtensionOnlyToANameWithoutOne)
-{
-    TempDir dir;
-    Session session;
-    session.DataFolder = dir.path();
+    // the extension is added only to a name without one
     session.run.LastFormFile = "/old.fms";
-    DialogPort port;
     port.file(dir.file("plain"));
     ASSERT_TRUE(SaveShow(session, port));
     EXPECT_TRUE(std::filesystem::exists(dir.file("plain.shw")));
@@ -241,24 +234,6 @@ TEST(ShowValidate, EachCheckHasItsMessageAndTheFirstFailureWins)
 
 // ---------------------------------------------------------------- line rules
 
-TEST(ShowLines, ListValuesAreCutFromTheListTexts)
-{
-    ShowSettings s;
-    using V = std::vector<std::string>;
-    s.ImagesPerLine = "10";
-    EXPECT_EQ(RewriteTemplateLine("$imgsperline=5;", s), V{"$imgsperline=10;"});
-    s.ImagesPerLine = "5 - default";
-    EXPECT_EQ(RewriteTemplateLine("x $imgsperline=5 y", s), V{"$imgsperline=5;"});
-    EXPECT_EQ(RewriteTemplateLine("  $imgspercolumn=3;", s), V{"$imgspercolumn=3;"});
-    EXPECT_EQ(RewriteTemplateLine("$fadeTime  =70;", s), V{"$fadeTime  =70;"});
-    s.FadeDelay = "100";
-    EXPECT_EQ(RewriteTemplateLine("$fadeTime  =70;", s), V{"$fadeTime  =100;"});
-    s.FadeSteps = "10";
-    EXPECT_EQ(RewriteTemplateLine("$fadeSteps =6;", s), V{"$fadeSteps =10;"});
-    s.FadeSteps = "6 - default";
-    EXPECT_EQ(RewriteTemplateLine("$fadeSteps =6;", s), V{"$fadeSteps =6;"});
-}
-
 TEST(ShowLines, SwitchesTitleColourAndHomeLink)
 {
     ShowSettings s = Edited("/tmp/x");
@@ -280,7 +255,7 @@ TEST(ShowLines, SwitchesTitleColourAndHomeLink)
     EXPECT_EQ(RewriteTemplateLine("", s), V{""});
 }
 
-TEST(ShowLines, FadeModeByExactTextAndTheFirstMarkDecides)
+TEST(ShowLines, FadeModeByExactTextTheFirstMarkDecidesAndListValuesAreCut)
 {
     ShowSettings s;
     using V = std::vector<std::string>;
@@ -297,6 +272,19 @@ TEST(ShowLines, FadeModeByExactTextAndTheFirstMarkDecides)
     // a line with two marks takes the rule of the earlier row
     EXPECT_EQ(RewriteTemplateLine("$imgsperline=5; <b>RETURN TO HOME PAGE</b>", s), V{"<b>RETURN TO MAIN MENU</b>"});
     EXPECT_EQ(RewriteTemplateLine("<?PHP $fadeTime  =70;", s), V{"$fadeTime  =70;"});
+    // list values are cut from the list texts
+    s.ImagesPerLine = "10";
+    EXPECT_EQ(RewriteTemplateLine("$imgsperline=5;", s), V{"$imgsperline=10;"});
+    s.ImagesPerLine = "5 - default";
+    EXPECT_EQ(RewriteTemplateLine("x $imgsperline=5 y", s), V{"$imgsperline=5;"});
+    EXPECT_EQ(RewriteTemplateLine("  $imgspercolumn=3;", s), V{"$imgspercolumn=3;"});
+    EXPECT_EQ(RewriteTemplateLine("$fadeTime  =70;", s), V{"$fadeTime  =70;"});
+    s.FadeDelay = "100";
+    EXPECT_EQ(RewriteTemplateLine("$fadeTime  =70;", s), V{"$fadeTime  =100;"});
+    s.FadeSteps = "10";
+    EXPECT_EQ(RewriteTemplateLine("$fadeSteps =6;", s), V{"$fadeSteps =10;"});
+    s.FadeSteps = "6 - default";
+    EXPECT_EQ(RewriteTemplateLine("$fadeSteps =6;", s), V{"$fadeSteps =6;"});
 }
 
 // ---------------------------------------------------------------- build
@@ -322,7 +310,7 @@ struct ShowBuild : ::testing::Test
 
 } // namespace
 
-TEST_F(ShowBuild, ReadmeIsWrittenLineForLine)
+TEST_F(ShowBuild, ShowFromTheInstalledTemplateWithItsReadmeDoneOutputLineAndHistory)
 {
     port.file(templatePath);
     ASSERT_TRUE(BuildShow(session, TQ_DATA_DIR, port));
@@ -351,12 +339,6 @@ TEST_F(ShowBuild, ReadmeIsWrittenLineForLine)
             "\r\n"
             "4. After you complete the above steps, click VIEW PHOTOSHOW LIVE ON YOUR WEB SITE to see your photos live "
             "on the internet\r\n");
-}
-
-TEST_F(ShowBuild, ShowFromTheInstalledTemplateWithDoneOutputLineAndHistory)
-{
-    port.file(templatePath);
-    ASSERT_TRUE(BuildShow(session, TQ_DATA_DIR, port));
     ASSERT_EQ(port.messages().size(), 1u);
     EXPECT_TRUE(Said(port.last(), ShowDoneMessage(session.photoShow.settings, dir.path()), "DONE"));
     EXPECT_EQ(port.last().text.substr(0, 68), "1. FTP all of your images to your web server to https://club.example");
