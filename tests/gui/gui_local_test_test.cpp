@@ -77,12 +77,9 @@ class LocalTestWindowTest : public QObject
         QtPort port(nullptr);
         LocalTestWindow w;
         w.phpProgram = "/no/such/php";
-        QString seen;
-        test::AnswerNextDialog([&](QWidget* box) {
-            seen = test::DescribeBox(box);
-            qobject_cast<QMessageBox*>(box)->buttons().first()->click();
-        });
-        QVERIFY(!w.start(s, port));
+        bool started = true;
+        const QString seen = test::AnswerBox([&] { started = w.start(s, port); });
+        QVERIFY(!started);
         QVERIFY2(seen.startsWith("PHP IS NOT INSTALLED: "), qPrintable(seen));
         QVERIFY(seen.contains("sudo apt-get install php-cli"));
     }

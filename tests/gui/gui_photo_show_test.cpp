@@ -44,18 +44,6 @@ class FilePort : public QtPort
     }
 };
 
-// Presses OK on the next message box and keeps its "TITLE: text".
-void AcceptBox(QString& seen)
-{
-    test::AnswerNextDialog([&seen](QWidget* w) {
-        seen = test::DescribeBox(w);
-        if (auto* box = qobject_cast<QMessageBox*>(w))
-            box->buttons().first()->click();
-        else
-            w->close();
-    });
-}
-
 template <typename T> T* Child(QWidget* page, const char* name)
 {
     T* w = page->findChild<T*>(name);
@@ -91,13 +79,17 @@ class PhotoShowPageTest : public QObject
         Child<QComboBox>(&page, "UseFading")->setCurrentText("YES");
         QVERIFY(Child<QComboBox>(&page, "FadeSteps")->isEnabled());
         // the colour dialog sets the colour (red in the low byte) and the sample panel
-        test::AnswerNextDialog([](QWidget* w) {
-            auto* dlg = qobject_cast<QColorDialog*>(w);
-            QVERIFY(dlg);
-            dlg->setCurrentColor(QColor(0x10, 0x20, 0x30));
-            dlg->accept();
-        });
-        Child<QPushButton>(&page, "BackgroundColor")->click();
+        {
+            test::DialogScript colour;
+            colour.then([](QWidget* w) {
+                auto* dlg = qobject_cast<QColorDialog*>(w);
+                QVERIFY(dlg);
+                dlg->setCurrentColor(QColor(0x10, 0x20, 0x30));
+                dlg->accept();
+            });
+            Child<QPushButton>(&page, "BackgroundColor")->click();
+            QVERIFY(colour.done());
+        }
         QCOMPARE(s.photoShow.settings.BackgroundColor, 0x302010L);
         QVERIFY(Child<QFrame>(&page, "BackgroundSample")->styleSheet().contains("rgb(16, 32, 48)"));
         // commands that need a build wait for one; the recent slots keep their names
@@ -105,9 +97,7 @@ class PhotoShowPageTest : public QObject
         QVERIFY(page.findChild<QAction*>("History100"));
         QVERIFY(!page.findChild<QAction*>("History10"));
         QVERIFY(page.findChild<QAction*>("History15"));
-        QString help;
-        AcceptBox(help);
-        page.runCommand("Help");
+        const QString help = test::AnswerBox([&] { page.runCommand("Help"); });
         QVERIFY(help.startsWith("HELP: "));
         QVERIFY(help.endsWith(" You can then select File and Recent and open up any of the files that you've saved "
                               "in your history"));
@@ -174,10 +164,8 @@ class PhotoShowPageTest : public QObject
         QCOMPARE(Child<QComboBox>(&page, "ImagesPerLine")->currentText(), QString("5 - default"));
         QCOMPARE(s.photoShow.settings.FadeMode, std::string("square"));
         // BUILD PHOTO SHOW asks for the template, writes the show and says DONE
-        QString done;
         port.files << QString(TQ_DATA_DIR) + "/photodata.php";
-        AcceptBox(done);
-        Child<QPushButton>(&page, "BuildPhotoShow")->click();
+        const QString done = test::AnswerBox([&] { Child<QPushButton>(&page, "BuildPhotoShow")->click(); });
         QVERIFY2(done.startsWith("DONE"), qPrintable(done));
         QCOMPARE(port.titles.last(), QString("Where is photodata.php located?"));
         QVERIFY(QFile::exists(images.filePath("photoshow.php")));

@@ -97,21 +97,6 @@ QString SaveScreenshot(QWidget* w, const QString& name)
     return path;
 }
 
-void AnswerNextDialog(std::function<void(QWidget*)> answer)
-{
-    auto* timer = new QTimer;
-    timer->setInterval(20);
-    QObject::connect(timer, &QTimer::timeout, [timer, answer] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (!modal)
-            return;
-        timer->stop();
-        timer->deleteLater();
-        answer(modal);
-    });
-    timer->start();
-}
-
 DialogScript::DialogScript() : m_timer(std::make_unique<QTimer>())
 {
     m_timer->setInterval(15);
@@ -181,6 +166,14 @@ DialogScript& DialogScript::choose(const QString& path)
         if (dialog->isVisible())
             static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
     });
+}
+
+QString AnswerBox(const std::function<void()>& run, QMessageBox::StandardButton button)
+{
+    DialogScript script;
+    script.press(button);
+    run();
+    return script.seen.value(0);
 }
 
 bool Trigger(QWidget* root, const QString& name)

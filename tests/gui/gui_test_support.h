@@ -54,10 +54,6 @@ struct StartedWindow
 /// Saves a picture of `w` as artifacts/<name>.png for review.
 QString SaveScreenshot(QWidget* w, const QString& name);
 
-/// Answers the next modal dialog that opens: `answer` gets the dialog's widget
-/// (a QMessageBox, QInputDialog, QFileDialog ...) and must close it.
-void AnswerNextDialog(std::function<void(QWidget*)> answer);
-
 /// Answers the modal dialogs of a command one after another, in order, and
 /// records each as "TITLE: text". A dialog beyond the script is recorded with
 /// the mark "UNEXPECTED " and closed, so that a test fails instead of hanging.
@@ -83,6 +79,10 @@ class DialogScript
     QList<std::function<void(QWidget*)>> m_answers;
     std::unique_ptr<QTimer> m_timer;
 };
+
+/// Runs `run`, pressing `button` on the message box it shows; returns the box
+/// as "TITLE: text" (empty when none came).
+QString AnswerBox(const std::function<void()>& run, QMessageBox::StandardButton button = QMessageBox::Ok);
 
 /// Finds the action named `name` on the visible page of `root` and triggers it.
 bool Trigger(QWidget* root, const QString& name);

@@ -39,17 +39,6 @@ QString ReadRecord(const QString& record)
     return QString::fromUtf8(f.readAll());
 }
 
-QString RunAndSee(QHash<QString, std::function<void()>>& commands, const QString& name)
-{
-    QString seen;
-    test::AnswerNextDialog([&](QWidget* w) {
-        seen = test::DescribeBox(w);
-        qobject_cast<QMessageBox*>(w)->buttons().first()->click();
-    });
-    commands[name]();
-    return seen;
-}
-
 } // namespace
 
 class ToolCommandsTest : public QObject
@@ -84,20 +73,23 @@ class ToolCommandsTest : public QObject
         QHash<QString, std::function<void()>> commands;
         RegisterToolCommands(commands, s, port);
         s.setup.FTPProgramPath = "/no/such/ftp";
-        QCOMPARE(RunAndSee(commands, "FTP"), QString("Error launching FTP CLIENT : File not found\nThe FTP path in "
-                                                     "SETUP does not exist.\n\nGo to setup and enter the full path "
-                                                     "of the FTP program that you will be using"));
+        QCOMPARE(test::AnswerBox(commands["FTP"]),
+                 QString("Error launching FTP CLIENT : File not found\nThe FTP path in "
+                         "SETUP does not exist.\n\nGo to setup and enter the full path "
+                         "of the FTP program that you will be using"));
         s.setup.FTPProgramPath.clear();
-        QVERIFY(RunAndSee(commands, "FTP").startsWith("Error launching FTP CLIENT: No FTP program was selected"));
+        QVERIFY(test::AnswerBox(commands["FTP"]).startsWith("Error launching FTP CLIENT: No FTP program was selected"));
         s.setup.rows[1].WebFolderPath = "/srv/site";
         s.setup.WebEditorPath = "/no/such/editor";
-        QVERIFY(RunAndSee(commands, "Web2").startsWith("Error launching Web Editor: The Path does not exist. File"));
-        QCOMPARE(RunAndSee(commands, "LivePreview2"),
+        QVERIFY(
+            test::AnswerBox(commands["Web2"]).startsWith("Error launching Web Editor: The Path does not exist. File"));
+        QCOMPARE(test::AnswerBox(commands["LivePreview2"]),
                  QString("NO ENTRY FOUND: To add a menu item to the list, go to setup and add the new web folder "
                          "to the list"));
         s.setup.rows[1].WebServerPath = "https://x.example/";
         s.setup.BrowserPath = "/no/such/browser";
-        QVERIFY(RunAndSee(commands, "LivePreview2").startsWith("Error launching Internet Browser: File not found"));
+        QVERIFY(
+            test::AnswerBox(commands["LivePreview2"]).startsWith("Error launching Internet Browser: File not found"));
         for (const char* name : {"HomePage", "SampleForms", "CheckForUpdate", "ViewTarnquillFolder", "ViewFolder",
                                  "ShowOutputInEditor", "Web15", "LivePreview1"})
             QVERIFY2(commands.contains(name), name);

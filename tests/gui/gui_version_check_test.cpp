@@ -36,17 +36,8 @@ class TinyHttpServer : public QTcpServer
 QString RunCheck(const QString& url, QMessageBox::StandardButton press = QMessageBox::Ok)
 {
     tq::gui::QtPort port(nullptr);
-    QString seen;
-    tq::gui::test::AnswerNextDialog([&](QWidget* w) {
-        seen = tq::gui::test::DescribeBox(w);
-        auto* box = qobject_cast<QMessageBox*>(w);
-        if (QAbstractButton* b = box->button(press))
-            b->click();
-        else
-            box->buttons().first()->click();
-    });
-    tq::shell::CheckForUpdate(port, url.toStdString(), "http://127.0.0.1:9/none", 3000);
-    return seen;
+    return tq::gui::test::AnswerBox(
+        [&] { tq::shell::CheckForUpdate(port, url.toStdString(), "http://127.0.0.1:9/none", 3000); }, press);
 }
 
 } // namespace
