@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cmd_serve.h"
 #include "commands.h"
+#include "run_process.h"
 #include "scripted_port.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sstream>
-#include <sys/wait.h>
 
 using namespace tq;
 
@@ -52,15 +51,11 @@ TEST(CliServe, UsageAndMissingPhp)
     EXPECT_EQ(cli::CmdServe({}, out, err), 2);
     EXPECT_EQ(cli::CmdServe({"a.fms", "--port", "0"}, out, err), 2);
     // with no php on the path the command says how to get it
-    const std::string cmd = "PATH=/nonexistent '" + std::string(TQ_CLI_BINARY) + "' serve x.fms 2>&1";
-    FILE* p = ::popen(cmd.c_str(), "r");
-    ASSERT_NE(p, nullptr);
-    std::string text;
-    char buf[256];
-    while (size_t n = std::fread(buf, 1, sizeof buf, p))
-        text.append(buf, n);
-    const int status = ::pclose(p);
+    const auto r =
+        cli::RunProcess("sh", {"-c", "PATH=/nonexistent '" + std::string(TQ_CLI_BINARY) + "' serve x.fms"}, 10000);
+    ASSERT_TRUE(r.has_value());
+    std::string text = r->output;
     text.erase(text.find_last_not_of('\n') + 1); // the last line end
-    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_EQ(r->exitCode, 1);
     EXPECT_TRUE(text.ends_with("Install it with: sudo apt-get install php-cli")) << text;
 }
