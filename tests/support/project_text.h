@@ -49,6 +49,12 @@ inline std::string SetupEntryText(const std::string& folder, const SetupOptions&
     return text;
 }
 
+/// An item of a stored text with its help item and the blank line behind them.
+inline std::string Group(const std::string& item, const std::string& help)
+{
+    return item + "\r\n" + help + "\r\n\r\n";
+}
+
 /// A project file of the Entries (type, text) with their star frames.
 inline std::string ProjectFileText(const std::vector<std::pair<std::string, std::string>>& entries)
 {

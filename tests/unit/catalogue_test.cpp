@@ -69,7 +69,7 @@ TEST(Catalogue, SetupAndFollowupsStandInNoList)
     }
 }
 
-TEST(Catalogue, TextColourIsWhiteOnlyInAFramedForm)
+TEST(Catalogue, TextColourFollowsTheFrameAndEmptyPathsTakeTheirDefaults)
 {
     Built framed("FORM");
     EXPECT_EQ(ValueOf(CatalogueTemplate(framed.catalogue, 17), "[Text Color="), "16777215");
@@ -83,26 +83,7 @@ TEST(Catalogue, TextColourIsWhiteOnlyInAFramedForm)
     EXPECT_EQ(survey.settings.TextColor, "0");
     EXPECT_EQ(survey.settings.FrameOff, 1);
     EXPECT_EQ(ValueOf(survey.catalogue.SetupTemplate, "[Include Frame With Form="), "NO");
-}
-
-TEST(Catalogue, SwitchesOfTheSetupTextFollowTheFlags)
-{
-    Built b("FORM");
-    b.settings.NumberEachQuestion = 0;
-    b.settings.ShowToolTips = 0;
-    BuildCatalogue(b.catalogue, b.settings, b.state);
-    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Number Each Question="), "NO");
-    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Show Tool Tips="), "NO");
-    EntryStore store;
-    store.MaxEntries = 0;
-    InitCatalogueAtStartup(store, b.settings, b.catalogue);
-    EXPECT_EQ(store.MaxEntries, 100);
-    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Number Each Question="), "YES");
-    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Show Tool Tips="), "YES");
-}
-
-TEST(Catalogue, EmptyOrNonePathsAndEmailsReturnToTheirDefaults)
-{
+    // empty or "none" paths and e-mails return to their defaults
     Built b("FORM");
     b.settings.BackgroundImagePath = "none";
     b.settings.ServerFolderPath = "";
@@ -119,20 +100,33 @@ TEST(Catalogue, EmptyOrNonePathsAndEmailsReturnToTheirDefaults)
               "https://my.site/v.mp4");
 }
 
-TEST(Catalogue, NewProjectPendingResetsTheSettingsFirst)
+TEST(Catalogue, SwitchesFollowTheFlagsAndANewProjectResetsTheSettingsFirst)
 {
-    Built b("SURVEY");
-    b.settings.FromName = "Mine";
-    b.settings.SubmitNameDefault = "Go";
-    b.state.NewProjectPending = true;
+    Built b("FORM");
+    b.settings.NumberEachQuestion = 0;
+    b.settings.ShowToolTips = 0;
     BuildCatalogue(b.catalogue, b.settings, b.state);
-    EXPECT_EQ(b.settings.FromName, ";My Web Page");
-    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Submit Name="), "Submit Form");
-    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[SUBMIT ALIGN="), "CENTER");
-    b.state.NewProjectPending = false;
-    b.settings.FromName = "Mine";
-    BuildCatalogue(b.catalogue, b.settings, b.state);
-    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[FROM="), "Mine");
+    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Number Each Question="), "NO");
+    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Show Tool Tips="), "NO");
+    EntryStore store;
+    store.MaxEntries = 0;
+    InitCatalogueAtStartup(store, b.settings, b.catalogue);
+    EXPECT_EQ(store.MaxEntries, 100);
+    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Number Each Question="), "YES");
+    EXPECT_EQ(ValueOf(b.catalogue.SetupTemplate, "[Show Tool Tips="), "YES");
+    // a pending new project resets the settings first
+    Built pending("SURVEY");
+    pending.settings.FromName = "Mine";
+    pending.settings.SubmitNameDefault = "Go";
+    pending.state.NewProjectPending = true;
+    BuildCatalogue(pending.catalogue, pending.settings, pending.state);
+    EXPECT_EQ(pending.settings.FromName, ";My Web Page");
+    EXPECT_EQ(ValueOf(pending.catalogue.SetupTemplate, "[Submit Name="), "Submit Form");
+    EXPECT_EQ(ValueOf(pending.catalogue.SetupTemplate, "[SUBMIT ALIGN="), "CENTER");
+    pending.state.NewProjectPending = false;
+    pending.settings.FromName = "Mine";
+    BuildCatalogue(pending.catalogue, pending.settings, pending.state);
+    EXPECT_EQ(ValueOf(pending.catalogue.SetupTemplate, "[FROM="), "Mine");
 }
 
 TEST(Catalogue, RandomCodeIsEightDiceDrawnAfreshForEachTemplateAndBuild)

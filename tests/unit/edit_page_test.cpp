@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/internal_error.h"
+#include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
 #include "shell/edit_page.h"
@@ -9,15 +10,11 @@
 
 using namespace tq;
 using namespace tq::shell;
+using tq::test::Group;
 using tq::test::ScriptedPort;
 using tq::test::TempDir;
 
 namespace {
-
-std::string Group(const std::string& item, const std::string& help)
-{
-    return item + "\r\n" + help + "\r\n\r\n";
-}
 
 std::string SetupText(const std::string& folder, const std::string& frame = "YES")
 {

@@ -11,16 +11,12 @@
 
 using namespace tq;
 using namespace tq::shell;
+using tq::test::Group;
 using tq::test::ReadFileBytes;
 using tq::test::ScriptedPort;
 using tq::test::TempDir;
 
 namespace {
-
-std::string Group(const std::string& item, const std::string& help)
-{
-    return item + "\r\n" + help + "\r\n\r\n";
-}
 
 const std::string kCondition =
     Group("[Title=Do you want a show?]", "[Info: d]") + Group("[Error Message=Tell us]", "[Info: e]") +
