@@ -41,18 +41,13 @@ struct EditFixture
         return out;
     }
     int index(std::string_view typeName) const { return model::FindCatalogueIndex(catalogue, typeName); }
-
-    /// Fills a row by hand with a name and a short text.
-    void put(int page, int row, std::string typeName)
+    /// Fills rows first..last of a Page with `typeName` and a short text.
+    void fill(int page, int first, int last, const std::string& typeName = "Name")
     {
-        at(page, row).InputTypeName = typeName;
-        at(page, row).AttributeText = "[Title=" + typeName + "]\r\n";
-    }
-    /// Fills rows first..last of a Page with "Name".
-    void fill(int page, int first, int last)
-    {
-        for (int r = first; r <= last; ++r)
-            put(page, r, "Name");
+        for (int r = first; r <= last; ++r) {
+            at(page, r).InputTypeName = typeName;
+            at(page, r).AttributeText = "[Title=" + typeName + "]\r\n";
+        }
     }
 };
 
