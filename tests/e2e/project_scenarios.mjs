@@ -3,7 +3,7 @@
 // built-in server and filled in by a visitor in chromium: what the visitor
 // sees and which mail leaves.
 //
-// The fixtures are made by tests/unit/sample_projects_test.cpp. The field
+// The fixtures are project files as the program saves them. The field
 // names follow from the rows: the first five letters of the Input Type and
 // the row's odd line in the flat list (Name in the third row: "name5").
 import { spawnSync } from 'node:child_process';
