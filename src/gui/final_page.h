@@ -31,7 +31,6 @@ class FinalPage : public QWidget
 
     QPlainTextEdit* codeBox() const { return m_code; }
     QPlainTextEdit* instructionBox() const { return m_instructions; }
-    QListWidget* uploadList() const { return m_uploads; }
     QLabel* publishWarning() const { return m_warning; }
 
     /// PREVIEW FULL SCREEN: the shell shows the output file in the preview window.

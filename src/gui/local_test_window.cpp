@@ -326,7 +326,6 @@ void LocalTestWindow::pollMails()
                                     .arg(QString::fromStdString(m.to)));
         m_mails->addItem(item);
         m_mails->setCurrentRow(m_mails->count() - 1);
-        emit mailArrived(m_mails->count());
     }
 }
 

@@ -47,9 +47,6 @@ class LocalTestWindow : public QWidget
     /// Looks for mails that arrived since the last look (a timer does it too).
     void pollMails();
 
-  signals:
-    void mailArrived(int count);
-
   private:
     void showMail(int row);
 

@@ -71,7 +71,7 @@ void StartedWindow::put(int page, int row, const std::string& type)
     e.InputTypeName = type;
     e.AttributeText = tq::model::NormalizeAttributeText(
         quiet, tq::model::DefaultTemplateFor(s.catalogue, type, s.store.state.ProjectMode));
-    tq::store::RefreshRowEditFlags(s.store);
+    tq::model::RefreshEditMarkers(s.store);
     w->refreshAll();
 }
 

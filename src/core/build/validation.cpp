@@ -13,20 +13,6 @@ namespace tq::build {
 
 namespace {
 
-View PageView(int page)
-{
-    switch (page) {
-    case 1:
-        return View::Page1;
-    case 2:
-        return View::Page2;
-    case 3:
-        return View::Page3;
-    default:
-        return View::Page4;
-    }
-}
-
 /// Splits file bytes into lines at CR LF or a lone LF.
 std::vector<std::string> SplitFileLines(const std::string& bytes)
 {
@@ -73,7 +59,7 @@ void ReportBuildFault(Session& s, UiPort& ui, int slot)
     int row = 0;
     int page = 1;
     LocateEntry(slot, row, page);
-    ui.showView(PageView(page));
+    ui.showView(ViewOfPageNumber(page + 1, View::Page1));
     ui.selectRow(page, row);
     s.store.state.EditPage = page;
     s.store.state.EditRow = row;
@@ -88,7 +74,7 @@ void ReportUnknownType(Session& s, UiPort& ui, int slot, std::string_view inputT
         int row = 0;
         int page = 1;
         LocateEntry(slot, row, page);
-        ui.showView(PageView(page)); // the port hides the other views
+        ui.showView(ViewOfPageNumber(page + 1, View::Page1)); // the port hides the other views
         ui.selectRow(page, row);
         const std::string type = model::ToUpper(inputType);
         ui.message(type + " is not a valid input type.\r\rPlease remove the " + type + " from the list", "ERROR",

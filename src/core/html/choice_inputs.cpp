@@ -65,7 +65,7 @@ void CheckNoValue(Session& s, UiPort& ui, const std::string& title)
 
 bool IsDefaultChoice(std::string_view defaultValue, std::string_view choice)
 {
-    return model::ToUpper(model::Trim(defaultValue)) == model::ToUpper(model::Trim(choice));
+    return model::EqualsNoCase(model::Trim(defaultValue), model::Trim(choice));
 }
 
 std::string RadioTag(std::string_view choice)

@@ -31,7 +31,6 @@ struct Catalogue
 
     /// The names each Page's pick list shows, and the catalogue index of each.
     std::array<std::vector<std::string>, kPageCount> PickLists;
-    std::vector<int> PickListIndexes;
     /// The selected pick-list item, the same on every Page; -1 when none.
     int PickListIndex = 0;
 

@@ -13,12 +13,6 @@ namespace {
 constexpr int kLastRow = kRowsPerPage - 1;
 constexpr char kCR = '\r';
 
-View PageView(int page)
-{
-    static constexpr View kViews[] = {View::Page1, View::Page2, View::Page3, View::Page4};
-    return kViews[page - 1];
-}
-
 bool IsPartner(std::string_view name)
 {
     return !FollowupFor(name).empty();
@@ -126,7 +120,7 @@ std::optional<RowRef> AddToFirstFreeRow(EditContext& c, int page, int catalogueI
                 return std::nullopt;
             }
             ++page;
-            c.ui.showView(PageView(page));
+            c.ui.showView(ViewOfPageNumber(page + 1, View::Page1));
             continue;
         }
 

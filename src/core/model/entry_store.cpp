@@ -86,11 +86,6 @@ void SetAttributeText(EntryStore& store, UiPort& ui, int page, int row, std::str
         e.AttributeText = NormalizeAttributeText(ui, text);
 }
 
-void SetAttributeTextAsRead(EntryStore& store, int page, int row, std::string text)
-{
-    GetEntry(store, page, row).AttributeText = std::move(text);
-}
-
 int CountFilledRows(const EntryStore& store)
 {
     int count = 0;

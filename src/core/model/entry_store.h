@@ -113,10 +113,6 @@ void SetInputTypeName(EntryStore& store, int page, int row, std::string text);
 /// in its stored form and goes in as it is.
 void SetAttributeText(EntryStore& store, UiPort& ui, int page, int row, std::string_view text);
 
-/// Stores `text` exactly as given, for text read from a project file, which
-/// is already in its stored form (the normaliser would keep only a first line).
-void SetAttributeTextAsRead(EntryStore& store, int page, int row, std::string text);
-
 /// Counts the rows whose InputTypeName is not exactly empty (a row of blanks
 /// counts), the SetupEntry included; rows 0 to 24, and Pages 1 to 4 in each.
 int CountFilledRows(const EntryStore& store);

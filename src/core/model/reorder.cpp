@@ -17,12 +17,6 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-View PageView(int page)
-{
-    static constexpr View kViews[] = {View::Page1, View::Page2, View::Page3, View::Page4};
-    return kViews[page - 1];
-}
-
 } // namespace
 
 double LeadingNumber(std::string_view text)
@@ -149,7 +143,7 @@ bool ReorderEntries(EntryStore& store, UiPort& ui)
 
     // 6
     RefreshEditMarkers(store);
-    ui.showView(PageView(1));
+    ui.showView(View::Page1);
     ui.entriesChanged();
 
     // 7: moves on Pages 2 to 4 alone count as unchanged
@@ -183,17 +177,6 @@ void FollowPartnerNumber(EntryStore& store, int page, int row)
     // separate numbers. That is how the program has always behaved.
     if (upper.substr(0, 10) == "DOWNLOAD FILES WITH PASSWORD")
         GetEntry(store, page, row + 1).ReferenceNumber = e.ReferenceNumber;
-}
-
-bool FindTableEntry(EntryStore& store, UiPort& ui)
-{
-    if (!ReorderEntries(store, ui))
-        return false;
-    for (const auto& page : store.pages)
-        for (const Entry& e : page)
-            if (!Trim(e.InputTypeName).empty() && StartsWithNoCase(e.InputTypeName, "TABLE"))
-                return true;
-    return false;
 }
 
 } // namespace tq::model

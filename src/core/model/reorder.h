@@ -27,8 +27,4 @@ bool ReorderEntries(EntryStore& store, UiPort& ui);
 /// Row 24 has no row below.
 void FollowPartnerNumber(EntryStore& store, int page, int row);
 
-/// ReorderEntries, then whether any row holds a name whose first five
-/// letters are "TABLE". False when the reorder failed.
-bool FindTableEntry(EntryStore& store, UiPort& ui);
-
 } // namespace tq::model

@@ -2,6 +2,7 @@
 #include "shell/external_tools.h"
 
 #include "port/platform.h"
+#include "show/show_settings.h"
 
 #include <array>
 #include <filesystem>
@@ -17,13 +18,6 @@ constexpr std::string_view kEditorTitle = "Error launching Web Editor";
 bool IsSeparator(char c)
 {
     return c == '/' || c == '\\';
-}
-
-std::string WithoutTrailingSeparator(std::string path)
-{
-    if (!path.empty() && IsSeparator(path.back()))
-        path.pop_back();
-    return path;
 }
 
 const store::SetupRow* RowOf(const store::SetupStore& setup, int n)
@@ -191,7 +185,7 @@ void ViewTarnquillFolder(std::string_view dataFolder, UiPort& ui)
 
 void ViewFolder(const build::BuildState& build, UiPort& ui)
 {
-    OpenTarget(WithoutTrailingSeparator(build.setupValues.WebFolder), "", "", ui);
+    OpenTarget(show::RemoveTrailingSeparator(build.setupValues.WebFolder), "", "", ui);
 }
 
 bool ShowOutputInEditor(const build::BuildState& build, UiPort& ui)
@@ -199,7 +193,7 @@ bool ShowOutputInEditor(const build::BuildState& build, UiPort& ui)
     if (build.htmlPath.empty())
         return false;
     const std::filesystem::path file(build.htmlPath);
-    const std::string folder = WithoutTrailingSeparator(file.parent_path().string());
+    const std::string folder = show::RemoveTrailingSeparator(file.parent_path().string());
     return ui.openTarget(folder + platform::kSeparator + file.filename().string());
 }
 

@@ -153,17 +153,19 @@ FinalPageText ShowInstructions(Session& s, UiPort&)
 {
     const std::string& mode = s.store.state.ProjectMode;
     const std::string path = platform::JoinPath(s.DataFolder, "\\Instruct.txt");
+    std::string text;
+    for (const auto& line : InstructionLines(s))
+        text += line + "\r\n";
     auto& out = s.build.channels[1];
     out.close();
     if (out.open(path)) {
-        for (const auto& line : InstructionLines(s))
-            out.line(line);
+        out.piece(text);
         out.close();
     }
     FinalPageText page;
     page.buttonCaption = "Copy " + mode + " data to the clipboard";
     page.title = "INSTRUCTIONS ON GETTING YOUR " + mode + " ON THE INTERNET ";
-    page.instructions = store::ReadWholeFile(path).value_or(std::string());
+    page.instructions = std::move(text);
     page.code = store::ReadWholeFile(s.build.htmlPath).value_or(std::string());
     page.uploads = Uploads(s);
     page.uploadLabel =

@@ -98,9 +98,6 @@ PublishCheck CheckPublishedScript(const build::BuildState& build, UiPort& ui)
     PublishCheck result;
     if (build.phpPath.empty())
         return result;
-    const auto script = store::ReadWholeFile(build.phpPath);
-    if (!script)
-        return result;
     const auto ran = ui.runProcess("php", {"-l", build.phpPath}, kPublishCheckTimeoutMs);
     if (!ran)
         return result;
@@ -109,7 +106,7 @@ PublishCheck CheckPublishedScript(const build::BuildState& build, UiPort& ui)
     if (ran->exitCode == 0)
         return result;
     result.parses = false;
-    result.warning = PublishWarning(build, ran->output, *script);
+    result.warning = PublishWarning(build, ran->output, store::ReadWholeFile(build.phpPath).value_or(std::string()));
     return result;
 }
 

@@ -76,7 +76,7 @@ bool RestoreDefaults(Session& s, UiPort& ui, const DefaultsHooks& hooks)
     LineReader in = ReaderOf(*bytes);
     ReadEntries(s.store, in);
     ApplySetupMenus(s.setup);
-    RefreshRowEditFlags(s.store);
+    model::RefreshEditMarkers(s.store);
     ui.entriesChanged();
     ui.message("Defaults have been restored", "RESTORED", Icon::Information);
     return true;

@@ -166,14 +166,6 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
     return true;
 }
 
-void RefreshRowEditFlags(model::EntryStore& store)
-{
-    for (auto& page : store.pages)
-        for (auto& e : page)
-            e.EditEnabled = !e.InputTypeName.empty();
-    store.pages[0][0].EditEnabled = true;
-}
-
 int OpenProject(
     Session& s, UiPort& ui, int sourcePage, std::string_view extension, bool fromRecentList, const ProjectHooks& hooks)
 {
@@ -248,7 +240,7 @@ int OpenProject(
     ReadEntries(s.store, in);
     ApplySetupMenus(s.setup);
     s.run.busyMark = kIdle;
-    RefreshRowEditFlags(s.store);
+    model::RefreshEditMarkers(s.store);
     s.run.LoadInProgress = false;
     state.CurrentFileName = path;
     ui.entriesChanged();

@@ -81,7 +81,4 @@ void OpenSurveyCommand(Session& s, UiPort& ui, const ProjectHooks& hooks = {});
 /// and the build menu captions.
 void RefreshStatus(Session& s);
 
-/// Enables the edit command of every filled row and of the SetupEntry's row.
-void RefreshRowEditFlags(model::EntryStore& store);
-
 } // namespace tq::store

@@ -110,7 +110,7 @@ void UpdateRecentList(Session& s, UiPort& ui)
     for (const std::string& line : SplitFileLines(*bytes)) {
         if (line.empty())
             continue;
-        if (model::ToUpper(line) == model::ToUpper(skip)) {
+        if (model::EqualsNoCase(line, skip)) {
             skip = line;
             continue;
         }
