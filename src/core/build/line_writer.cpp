@@ -4,8 +4,6 @@
 #include "port/file_system.h"
 
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
 
 namespace tq::build {
 
@@ -39,7 +37,7 @@ bool LineWriter::open(const std::string& path, bool append)
     if (append) {
         m_out.open(path, std::ios::binary | std::ios::app);
     } else {
-        m_temp = path + ".tqtmp";
+        m_temp = platform::TemporaryNameFor(path);
         m_out.open(m_temp, std::ios::binary | std::ios::trunc);
     }
     if (!m_out.is_open()) {
@@ -80,18 +78,15 @@ void LineWriter::close()
         fail(errno);
     if (m_temp.empty())
         return;
-    std::error_code ec;
     if (m_good) {
-        if (WriteFault(WriteStep::Rename, m_path) != 0)
-            fail(errno);
-        else if (std::filesystem::rename(m_temp, m_path, ec); ec)
-            fail(ec.value());
-    }
-    if (!m_good) {
+        if (const int code = platform::ReplaceFromTemporary(m_path); code != 0)
+            fail(code);
+    } else {
         // the file stays as it was; the half-written copy goes
-        std::filesystem::remove(m_temp, ec);
-        errno = m_error;
+        platform::DropTemporary(m_path);
     }
+    if (!m_good)
+        errno = m_error;
     m_temp.clear();
 }
 

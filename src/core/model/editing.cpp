@@ -85,8 +85,9 @@ bool NeedsTwoRows(std::string_view name)
 std::optional<RowRef> AddToFirstFreeRow(EditContext& c, int page, int catalogueIndex)
 {
     StateRecord& st = c.store.state;
+    // the templates follow the current settings; the pages stepped over below reuse them
+    BuildCatalogue(c.catalogue, c.settings, st);
     for (;;) {
-        BuildCatalogue(c.catalogue, c.settings, st);
         std::string name;
         std::string text;
         bool fromEditRow = false;

@@ -2,6 +2,8 @@
 #include "port/file_system.h"
 
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace tq::platform {
@@ -31,6 +33,32 @@ int WriteFault(WriteStep step, const std::string& path)
     if (fault != 0)
         errno = fault;
     return fault;
+}
+
+std::string TemporaryNameFor(const std::string& path)
+{
+    return path + ".tqtmp";
+}
+
+int ReplaceFromTemporary(const std::string& path)
+{
+    int code = WriteFault(WriteStep::Rename, path);
+    if (code == 0) {
+        std::error_code ec;
+        std::filesystem::rename(TemporaryNameFor(path), path, ec);
+        code = ec.value();
+    }
+    if (code != 0) {
+        DropTemporary(path);
+        errno = code;
+    }
+    return code;
+}
+
+void DropTemporary(const std::string& path)
+{
+    std::error_code ignored;
+    std::filesystem::remove(TemporaryNameFor(path), ignored);
 }
 
 ScopedWriteHook::ScopedWriteHook(WriteHook hook)

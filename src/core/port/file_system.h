@@ -26,6 +26,17 @@ void SetWriteHook(WriteHook hook);
 /// the step may go on; otherwise sets errno to the fault and returns it.
 int WriteFault(WriteStep step, const std::string& path);
 
+/// The temporary name a file is written under before it replaces `path`.
+std::string TemporaryNameFor(const std::string& path);
+
+/// Ends a replacing write: renames the finished temporary file over `path`
+/// (asking the hook first). On failure the temporary file is removed and the
+/// target stays as it was. Returns 0 or the errno of the failure.
+int ReplaceFromTemporary(const std::string& path);
+
+/// Removes the temporary file of `path`, if there is one.
+void DropTemporary(const std::string& path);
+
 /// Installs a hook for the life of a scope and removes it at the end.
 class ScopedWriteHook
 {

@@ -77,13 +77,10 @@ bool WriteFileReplacing(const std::string& path, std::string_view bytes)
         errno = EISDIR;
         return false;
     }
-    fs::path target(path);
-    fs::path temp = target;
-    temp += ".tqtmp";
+    const std::string temp = platform::TemporaryNameFor(path);
     // the temporary file goes; errno keeps the fault of the step that failed
-    auto fail = [&temp](int code) {
-        std::error_code ignored;
-        fs::remove(temp, ignored);
+    auto fail = [&path](int code) {
+        platform::DropTemporary(path);
         errno = code != 0 ? code : EIO;
         return false;
     };
@@ -113,12 +110,7 @@ bool WriteFileReplacing(const std::string& path, std::string_view bytes)
         if (out.fail())
             return fail(errno);
     }
-    if (WriteFault(WriteStep::Rename, path) != 0)
-        return fail(errno);
-    fs::rename(temp, target, ec);
-    if (ec)
-        return fail(ec.value());
-    return true;
+    return platform::ReplaceFromTemporary(path) == 0;
 }
 
 bool CopyFileReplacing(const std::string& from, const std::string& to)
