@@ -16,11 +16,6 @@ build::LineWriter& Out(Session& s)
     return s.build.channels[1];
 }
 
-std::string ParagraphOpen(const Session& s)
-{
-    return "<p align=" + Quoted(s.build.values.ALIGN) + ">";
-}
-
 bool IsDownload(const std::string& t)
 {
     return t == "DOWNLOAD FILES" || t == "DOWNLOAD FILES WITH PASSWORD";
@@ -115,7 +110,7 @@ void WriteSurveyChoices(Session& s,
     }
     out.line(ChoiceFontLine(s));
     WriteItalicOpen(s);
-    out.line(ParagraphOpen(s));
+    out.line(ParagraphOpen(s.build.values.ALIGN));
     for (const auto& choice : s.build.values.Choices.items) {
         WriteIndent11(s);
         out.piece(RadioTag(choice));
@@ -191,7 +186,7 @@ void WriteSurveyCheckboxes(Session& s,
     WriteSurveyHeading(s, title, required, inputType);
     out.line(ChoiceFontLine(s));
     WriteItalicOpen(s);
-    out.line(ParagraphOpen(s));
+    out.line(ParagraphOpen(s.build.values.ALIGN));
     const auto& boxes = s.build.values.CheckBoxes.items;
     for (size_t i = 0; i < boxes.size(); ++i) {
         const std::string& choice = boxes[i];
@@ -264,7 +259,7 @@ void WriteSurveyDropdown(Session& s,
         out.line("");
         WriteSurveyHeading(s, title, required, inputType);
         out.line("");
-        out.line(ParagraphOpen(s));
+        out.line(ParagraphOpen(s.build.values.ALIGN));
         const auto& choices = s.build.values.Choices.items;
         if (!choices.empty()) {
             out.line("<select size=" + Quoted("1"));

@@ -14,11 +14,6 @@ build::LineWriter& Out(Session& s)
     return s.build.channels[1];
 }
 
-bool IsOn(std::string_view value)
-{
-    return model::EqualsNoCase(value, "ON");
-}
-
 // The pair rule: a condition and its followup share one number, "4a" and "4b".
 std::string PairNumber(int& counter, std::string_view inputType)
 {
@@ -33,14 +28,6 @@ std::string PairNumber(int& counter, std::string_view inputType)
         return std::to_string(counter) + "b";
     ++counter;
     return std::to_string(counter);
-}
-
-std::string ForcedRequired(std::string_view required, std::string_view inputType)
-{
-    const std::string t = model::ToUpper(inputType);
-    if (t == "DOWNLOAD FILES WITH PASSWORD" || t == "FOLLOWUP FILES WITH PASSWORD")
-        return "yes";
-    return std::string(required);
 }
 
 // Runs of four blanks become &nbsp;. The cut keeps the first p-2 characters
@@ -63,11 +50,6 @@ std::string FontFaceSize(const build::WorkingValues& v)
     return "<font face=" + Quoted(kFace) + " size=" + Quoted(v.TitleSize) + ">";
 }
 
-std::string ParagraphOpen(const build::WorkingValues& v)
-{
-    return "<p align=" + Quoted(v.ALIGN) + ">";
-}
-
 void WriteFormA(Session& s)
 {
     auto& out = Out(s);
@@ -87,12 +69,12 @@ void WriteFormB(Session& s)
     const auto& lines = s.build.TitleLines;
     // no blank before "color=": the format has none
     out.line(FontFaceSize(v) + "<p align=" + Quoted(v.ALIGN) + "color=" + Quoted(v.TextColorHex) + ">");
-    out.line(ParagraphOpen(v));
+    out.line(ParagraphOpen(v.ALIGN));
     for (int i = 1; i <= lines.count(); ++i) {
-        out.line(FontFaceSize(v) + ParagraphOpen(v) + lines.at(i));
+        out.line(FontFaceSize(v) + ParagraphOpen(v.ALIGN) + lines.at(i));
         WriteStyleClose(s);
         out.line("</font> </p>");
-        out.line(ParagraphOpen(v));
+        out.line(ParagraphOpen(v.ALIGN));
     }
 }
 
@@ -102,12 +84,12 @@ void WriteFormC(Session& s)
     const auto& v = s.build.values;
     const auto& lines = s.build.TitleLines;
     for (int i = 1; i <= lines.count(); ++i) {
-        out.line(FontFaceSize(v) + ParagraphOpen(v) + lines.at(i));
+        out.line(FontFaceSize(v) + ParagraphOpen(v.ALIGN) + lines.at(i));
         WriteStyleClose(s);
         out.line("</font> </p>");
     }
     if (lines.count() > 0)
-        out.line(ParagraphOpen(v) + FontFaceSize(v));
+        out.line(ParagraphOpen(v.ALIGN) + FontFaceSize(v));
 }
 
 void WriteFormD(Session& s)
@@ -115,19 +97,19 @@ void WriteFormD(Session& s)
     auto& out = Out(s);
     const auto& v = s.build.values;
     const auto& lines = s.build.TitleLines;
-    out.line(ParagraphOpen(v) + FontFaceSize(v) + "</p>");
+    out.line(ParagraphOpen(v.ALIGN) + FontFaceSize(v) + "</p>");
     out.line("");
     if (lines.count() == 0)
         return;
-    out.piece(ParagraphOpen(v) + FontFaceSize(v));
+    out.piece(ParagraphOpen(v.ALIGN) + FontFaceSize(v));
     // every line but the last is written twice: the format requires it
     for (int i = 1; i < lines.count(); ++i) {
         out.line(lines.at(i) + " </p>");
-        out.line(ParagraphOpen(v) + lines.at(i));
+        out.line(ParagraphOpen(v.ALIGN) + lines.at(i));
         WriteStyleClose(s);
         out.line("</font> </p>");
     }
-    out.line(ParagraphOpen(v) + lines.at(lines.count()));
+    out.line(ParagraphOpen(v.ALIGN) + lines.at(lines.count()));
     WriteStyleClose(s);
     out.line("</font> </p>");
 }
@@ -176,6 +158,14 @@ void WriteSurveyLines(Session& s, std::string_view required, const std::string& 
 }
 
 } // namespace
+
+std::string ForcedRequired(std::string_view required, std::string_view inputType)
+{
+    const std::string t = model::ToUpper(inputType);
+    if (t == "DOWNLOAD FILES WITH PASSWORD" || t == "FOLLOWUP FILES WITH PASSWORD")
+        return "yes";
+    return std::string(required);
+}
 
 std::string FieldName(std::string_view inputType, int position)
 {
@@ -257,7 +247,7 @@ void WriteFormHeading(Session& s, std::string_view title, std::string_view requi
     WriteTextOpen(s);
     if (!title.empty())
         SplitTitle(s.build, title);
-    out.line(ParagraphOpen(s.build.values));
+    out.line(ParagraphOpen(s.build.values.ALIGN));
     if (model::EqualsNoCase(req, "YES"))
         out.piece("* ");
     const auto& lines = s.build.TitleLines;
@@ -281,7 +271,7 @@ void WriteSurveyHeading(Session& s, std::string_view title, std::string_view req
         SplitTitle(s.build, title);
     const auto& intro = s.build.values.IntroLines;
     if (intro.count() > 0) {
-        out.line(ParagraphOpen(s.build.values));
+        out.line(ParagraphOpen(s.build.values.ALIGN));
         for (int i = 1; i <= intro.count(); ++i)
             out.line(i == 1 ? intro.at(i) : "<br>" + intro.at(i));
         out.line("</font></p>");

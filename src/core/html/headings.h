@@ -48,6 +48,10 @@ void RecordQuestion(build::BuildState& b, std::string_view fieldName, std::strin
 void SplitTitle(build::BuildState& b, std::string_view title);
 
 /// The heading of a FORM question on channel 1. The font tag stays open.
+/// The Required value a heading uses: the two password downloads are always
+/// required, whatever their attribute says.
+std::string ForcedRequired(std::string_view required, std::string_view inputType);
+
 void WriteFormHeading(Session& s, std::string_view title, std::string_view required, std::string_view inputType);
 
 /// The heading of a SURVEY question on channel 1 (forms A to D by type), then

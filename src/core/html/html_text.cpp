@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "html/html_text.h"
 
+#include "model/text_ops.h"
+
 namespace tq::html {
 
 std::string Quoted(std::string_view text)
@@ -17,6 +19,16 @@ std::string Repeat(std::string_view piece, int times)
     for (int i = 0; i < times; ++i)
         out += piece;
     return out;
+}
+
+bool IsOn(std::string_view value)
+{
+    return model::EqualsNoCase(value, "ON");
+}
+
+std::string ParagraphOpen(std::string_view align)
+{
+    return "<p align=" + Quoted(align) + ">";
 }
 
 } // namespace tq::html

@@ -10,5 +10,9 @@ namespace tq::html {
 std::string Quoted(std::string_view text);
 /// `piece` repeated `times` times.
 std::string Repeat(std::string_view piece, int times);
+/// A switch value of the attributes: "ON" in any case.
+bool IsOn(std::string_view value);
+/// The opening paragraph tag with its alignment.
+std::string ParagraphOpen(std::string_view align);
 
 } // namespace tq::html

@@ -10,11 +10,6 @@ namespace tq::html {
 
 namespace {
 
-bool IsOn(std::string_view value)
-{
-    return model::EqualsNoCase(value, "ON");
-}
-
 std::string TableFont(const build::WorkingValues& v)
 {
     return "<font color=" + Quoted(v.TableTextColorHex) + " size=" + Quoted(v.TitleSize) + " face=" + Quoted(kFace) +

@@ -10,18 +10,6 @@ namespace tq::html {
 
 namespace {
 
-std::string ForcedRequired(std::string_view required, const std::string& t)
-{
-    if (t == "DOWNLOAD FILES WITH PASSWORD" || t == "FOLLOWUP FILES WITH PASSWORD")
-        return "yes";
-    return std::string(required);
-}
-
-std::string ParagraphOpen(const Session& s)
-{
-    return "<p align=" + Quoted(s.build.values.ALIGN) + ">";
-}
-
 void WriteEmailLines(
     Session& s, std::string_view field, std::string_view width, const std::string& t, std::string_view defaultValue)
 {
@@ -29,7 +17,7 @@ void WriteEmailLines(
     if (defaultValue.empty()) {
         if (t != "EMAIL")
             WriteIndent11(s);
-        out.piece(ParagraphOpen(s) + "<input type=" + Quoted("text"));
+        out.piece(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text"));
         // without a width the field gets no size and no name, and a stray quote
         if (!width.empty())
             out.piece(" size=" + Quoted(width) + " name=\"" + std::string(field));
@@ -40,11 +28,11 @@ void WriteEmailLines(
     }
     WriteIndent11(s);
     if (!width.empty())
-        out.line(ParagraphOpen(s) + "<input type=" + Quoted("text") + " size=" + Quoted(width) +
+        out.line(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text") + " size=" + Quoted(width) +
                  " value=" + Quoted(defaultValue) + " name=" + Quoted(field) + " /><br />");
     else
-        out.line(ParagraphOpen(s) + "<input type=" + Quoted("text") + " value=" + Quoted(defaultValue) +
-                 " name=" + Quoted(field) + " /><br />");
+        out.line(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text") +
+                 " value=" + Quoted(defaultValue) + " name=" + Quoted(field) + " /><br />");
 }
 
 // The text area's open tag ends on the next line; a default text sets the fixed-pitch font.
@@ -87,19 +75,19 @@ void WriteSurveyText(Session& s,
     WriteSurveyHeading(s, title, req, inputType);
 
     if (t == "FOLLOWUP FILES WITH PASSWORD") {
-        out.line(ParagraphOpen(s));
+        out.line(ParagraphOpen(s.build.values.ALIGN));
         out.line("<input type=" + Quoted("password") + " size=" + Quoted("25") + " name=" + Quoted(field) + "/>");
         WriteStyleClose(s);
         WriteShadeClose(s);
     } else if (t == "NAME" || t == "SUBJECT" || t == "PHONE NUMBER" || t == "CELL PHONE NUMBER") {
-        out.line(ParagraphOpen(s));
+        out.line(ParagraphOpen(s.build.values.ALIGN));
         // the input tag has no ">": the "</p>" follows the value's quote at once
         out.line("<input type=" + Quoted("text") + " size=" + Quoted("40") + " name=" + Quoted(field) +
                  "value=" + Quoted(defaultValue) + "</p>");
         WriteShadeClose(s);
     } else if (t == "USER NAME") {
-        out.line(ParagraphOpen(s));
-        out.line(ParagraphOpen(s) + "<input type=" + Quoted("text") + " size=" + Quoted("25") +
+        out.line(ParagraphOpen(s.build.values.ALIGN));
+        out.line(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text") + " size=" + Quoted("25") +
                  " name=" + Quoted(field) + ">");
         // the style is closed twice here: the format does so
         WriteStyleClose(s);
@@ -107,7 +95,7 @@ void WriteSurveyText(Session& s,
         out.line("</font>");
         WriteShadeClose(s);
     } else if (t == "PASSWORD" || t == "SECURITY CODE") {
-        out.line(ParagraphOpen(s));
+        out.line(ParagraphOpen(s.build.values.ALIGN));
         out.line("<input type=" + Quoted("password") + " size=" + Quoted("25") + " name=" + Quoted(field) + " />");
         WriteStyleClose(s);
         WriteShadeClose(s);
@@ -175,8 +163,8 @@ void WriteSurveyComments(Session& s,
     out.line("");
     WriteSurveyHeading(s, title, required, inputType);
     if (model::StartsWithNoCase(inputType, "CONDITION") || model::StartsWithNoCase(inputType, "FOLLOWUP"))
-        out.line(ParagraphOpen(s));
-    out.line(ParagraphOpen(s));
+        out.line(ParagraphOpen(s.build.values.ALIGN));
+    out.line(ParagraphOpen(s.build.values.ALIGN));
     WriteTextArea(s, field, width, height);
     out.line("</textarea>");
     WriteStyleClose(s);

@@ -15,11 +15,6 @@ namespace tq::html {
 
 namespace {
 
-bool IsOn(std::string_view value)
-{
-    return model::EqualsNoCase(value, "ON");
-}
-
 // The video lines; `closing` ends the img tag.
 void WriteVideoLines(Session& s, std::string_view closing)
 {
