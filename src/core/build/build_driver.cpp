@@ -7,6 +7,7 @@
 #include "html/dispatch.h"
 #include "html/headings.h"
 #include "html/page_shell.h"
+#include "model/attribute_text.h"
 #include "model/reorder.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
@@ -180,13 +181,7 @@ std::string ComposePhpPath(std::string_view webFolder, std::string_view outputNa
 
 std::string PeekDriveFolderPath(std::string_view setupText)
 {
-    static constexpr std::string_view kKey = "[DRIVE FOLDER PATH=";
-    const size_t pos = model::FindNoCase(setupText, kKey);
-    if (pos == std::string::npos)
-        return {};
-    const size_t start = pos + kKey.size();
-    const size_t end = setupText.find_first_of("]\r\n", start);
-    return std::string(setupText.substr(start, end == std::string_view::npos ? end : end - start));
+    return model::PeekAttribute(setupText, "DRIVE FOLDER PATH");
 }
 
 bool FolderTest(std::string_view webFolder)

@@ -489,4 +489,15 @@ void TakeLineGroup(UiPort& ui,
     }
 }
 
+std::string PeekAttribute(std::string_view text, std::string_view key)
+{
+    const std::string open = "[" + std::string(key) + "=";
+    const size_t pos = FindNoCase(text, open);
+    if (pos == std::string::npos)
+        return {};
+    const size_t start = pos + open.size();
+    const size_t end = text.find_first_of("]\r\n", start);
+    return std::string(text.substr(start, end == std::string_view::npos ? end : end - start));
+}
+
 } // namespace tq::model

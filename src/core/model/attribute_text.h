@@ -114,6 +114,11 @@ void TakeLineGroup(UiPort& ui,
 /// Joins the text around every CR and LF.
 std::string RemoveLineBreaks(std::string_view text);
 
+/// The value of "[KEY=" (any case) in a text, read without the destructive
+/// reader and without any message: the text behind the "=" up to the next "]"
+/// or line end. Empty when the key is absent.
+std::string PeekAttribute(std::string_view text, std::string_view key);
+
 /// A decimal colour (red in the low byte) as six hex digits RRGGBB; empty stays empty.
 std::string ColorToHex(std::string_view value);
 

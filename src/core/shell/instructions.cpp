@@ -2,6 +2,7 @@
 #include "shell/instructions.h"
 
 #include "build/validation.h"
+#include "model/attribute_text.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
@@ -27,16 +28,10 @@ std::string CutSemicolon(std::string path)
     return path;
 }
 
-/// The value of "[KEY=" in a text, read without the destructive reader.
+/// The value of "[KEY=" in a text without its outer blanks.
 std::string PeekValue(std::string_view text, std::string_view key)
 {
-    const std::string open = "[" + std::string(key) + "=";
-    const size_t pos = model::FindNoCase(text, open);
-    if (pos == std::string::npos)
-        return {};
-    const size_t start = pos + open.size();
-    const size_t end = text.find_first_of("]\r\n", start);
-    return std::string(model::Trim(text.substr(start, end == std::string_view::npos ? end : end - start)));
+    return std::string(model::Trim(model::PeekAttribute(text, key)));
 }
 
 std::string Join(const std::vector<std::string>& items, std::string_view sep)
