@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/validation.h"
 
+#include "model/reorder.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
@@ -154,18 +155,7 @@ void RewriteAttribute(Session& s, std::string_view key, std::string_view value, 
 
 bool KeepPairTogether(model::EntryStore& store, int page, int row)
 {
-    if (page < 1 || page > model::kPageCount || row < 0 || row >= model::kRowsPerPage - 1)
-        return false;
-    auto& rows = store.pages[static_cast<size_t>(page - 1)];
-    const std::string name = model::ToUpper(rows[static_cast<size_t>(row)].InputTypeName);
-    // The download test compares ten characters with the whole 28-character
-    // name, so it never holds: a download pair keeps separate numbers.
-    const bool download = name.substr(0, 10) == "DOWNLOAD FILES WITH PASSWORD";
-    if (name.substr(0, 9) == "CONDITION" || download) {
-        rows[static_cast<size_t>(row + 1)].ReferenceNumber = rows[static_cast<size_t>(row)].ReferenceNumber;
-        return true;
-    }
-    return false;
+    return model::FollowPartnerNumber(store, page, row);
 }
 
 bool IsConditionType(std::string_view inputType)

@@ -165,18 +165,18 @@ bool ReorderEntries(EntryStore& store, UiPort& ui)
     return true;
 }
 
-void FollowPartnerNumber(EntryStore& store, int page, int row)
+bool FollowPartnerNumber(EntryStore& store, int page, int row)
 {
-    if (row >= kRowsPerPage - 1)
-        return;
+    if (page < 1 || page > kPageCount || row < 0 || row >= kRowsPerPage - 1)
+        return false;
     const Entry& e = GetEntry(store, page, row);
     const std::string upper = ToUpper(e.InputTypeName);
-    if (upper.substr(0, 9) == "CONDITION")
-        GetEntry(store, page, row + 1).ReferenceNumber = e.ReferenceNumber;
     // Ten letters never equal the 28 of the name: a Download pair keeps
     // separate numbers. That is how the program has always behaved.
-    if (upper.substr(0, 10) == "DOWNLOAD FILES WITH PASSWORD")
-        GetEntry(store, page, row + 1).ReferenceNumber = e.ReferenceNumber;
+    if (upper.substr(0, 9) != "CONDITION" && upper.substr(0, 10) != "DOWNLOAD FILES WITH PASSWORD")
+        return false;
+    GetEntry(store, page, row + 1).ReferenceNumber = e.ReferenceNumber;
+    return true;
 }
 
 } // namespace tq::model

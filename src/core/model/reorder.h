@@ -24,7 +24,7 @@ bool ReorderEntries(EntryStore& store, UiPort& ui);
 
 /// A changed ReferenceNumber: a row whose name starts with "CONDITION" gives
 /// its number to the row below, so that its Followup sorts right behind it.
-/// Row 24 has no row below.
-void FollowPartnerNumber(EntryStore& store, int page, int row);
+/// Row 24 has no row below. Returns true when the number was given on.
+bool FollowPartnerNumber(EntryStore& store, int page, int row);
 
 } // namespace tq::model
