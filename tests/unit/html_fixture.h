@@ -2,12 +2,14 @@
 // A session whose channel 1 writes to a temporary file, for the page writers' tests.
 #pragma once
 
+#include "html/choice_inputs.h"
+#include "html/conditions.h"
+#include "html/text_inputs.h"
 #include "scripted_port.h"
 #include "session.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -51,7 +53,7 @@ struct QuestionCase
     std::string type{};
     std::string field{};
     std::string title{};
-    std::string required{};
+    std::string required = "no";
     std::string defaultValue{};
     std::string width{};
     std::string height{};
@@ -64,7 +66,7 @@ struct QuestionCase
     std::vector<std::string> defaultLines{};
     std::vector<std::string> introLines{};
     std::vector<std::string> choices{};  // Choices, or CheckBoxes for the CHECKBOX types
-    std::string caption{};               // the expected first messageLines element, "" for none
+    std::string caption{};               // recorded with the field; "" for none
     std::vector<std::string> files{};    // downloadFiles
     std::string labels{};                // [SHOW FILE LABELS
     std::string visible{};               // [VISIBLE DOWNLOAD of either download type
@@ -94,55 +96,78 @@ struct QuestionCase
         f.s.build.downloadFileCount = static_cast<int>(files.size());
         for (size_t i = 0; i < files.size(); ++i)
             f.s.build.downloadFiles.at(i + 1) = files[i];
-        for (const auto& c : choices) {
-            if (type.rfind("CHECKBOX", 0) == 0)
-                v.CheckBoxes.push(c);
-            else
-                v.Choices.push(c);
-        }
+        for (const auto& c : choices)
+            (type.rfind("CHECKBOX", 0) == 0 ? v.CheckBoxes : v.Choices).push(c);
     }
 };
-
-/// Checks messageLines against the case: the whole list, or the caption and the field.
-inline void ExpectMessages(const HtmlFixture& f, const QuestionCase& c)
-{
-    const auto& b = f.s.build;
-    if (!c.messages.empty()) {
-        ASSERT_EQ(b.messageLineCount, static_cast<int>(c.messages.size()));
-        for (size_t i = 0; i < c.messages.size(); ++i)
-            EXPECT_EQ(b.messageLines.at(i + 1), c.messages[i]) << "slot " << i + 1;
-    } else if (c.caption.empty()) {
-        EXPECT_EQ(b.messageLineCount, 0);
-    } else {
-        ASSERT_EQ(b.messageLineCount, 2);
-        EXPECT_EQ(b.messageLines[1], c.caption);
-        EXPECT_EQ(b.messageLines[2], c.field);
-    }
-}
 
 inline std::ostream& operator<<(std::ostream& os, const QuestionCase& c)
 {
     return os << c.golden;
 }
 
-/// The lines joined, each with its CR LF.
-inline std::string Lines(std::initializer_list<std::string_view> lines)
+/// The message lines the case records: the whole list, or the caption and the field.
+inline void ExpectMessages(const HtmlFixture& f, const QuestionCase& c)
 {
-    std::string out;
-    for (auto l : lines) {
-        out += l;
-        out += "\r\n";
-    }
-    return out;
+    std::vector<std::string> want = c.messages;
+    if (want.empty() && !c.caption.empty())
+        want = {c.caption, c.field};
+    const auto& b = f.s.build;
+    EXPECT_EQ(std::vector<std::string>(b.messageLines.begin() + 1, b.messageLines.begin() + 1 + b.messageLineCount),
+              want);
 }
 
 /// A golden fragment under tests/golden/html/questions/.
 inline std::string Golden(std::string_view name)
 {
     const std::string path = std::string(TQ_GOLDEN_DIR) + "/html/questions/" + std::string(name);
-    if (!std::filesystem::exists(path))
-        ADD_FAILURE() << "missing golden file " << path;
+    EXPECT_TRUE(std::filesystem::exists(path)) << path;
     return ReadFileBytes(path);
 }
+
+/// Writes the case with the writer the dispatcher would pick for its type.
+inline std::string WriteQuestion(HtmlFixture& f, const QuestionCase& c)
+{
+    namespace html = tq::html;
+    c.Prepare(f);
+    const bool survey = c.Mode() == "SURVEY";
+    const std::string& t = c.type;
+    auto starts = [&](const char* p) { return t.rfind(p, 0) == 0; };
+    if (t == "CONDITION WITH MULTIPLE CHOICES")
+        html::WriteConditionChoices(f.s, c.field, c.title, t, c.defaultValue, c.required);
+    else if (t == "CONDITION WITH DROPDOWN")
+        html::WriteConditionDropdown(f.s, c.field, c.title, t, c.defaultValue, c.required);
+    else if (starts("CHECKBOX"))
+        (survey ? html::WriteSurveyCheckboxes : html::WriteFormCheckboxes)(f.s, f.port, c.field, c.title, t,
+                                                                           c.defaultValue, c.required);
+    else if (starts("DROPDOWN") || t == "FOLLOWUP WITH DROPDOWN")
+        (survey ? html::WriteSurveyDropdown : html::WriteFormDropdown)(f.s, c.field, c.title, c.defaultValue, t,
+                                                                       c.required);
+    else if (starts("QUESTION") || starts("DOWNLOAD") || starts("TABLE") || t == "CONDITION WITH COMMENT" ||
+             t == "FOLLOWUP WITH MULTIPLE CHOICES")
+        (survey ? html::WriteSurveyChoices : html::WriteFormChoices)(f.s, c.field, c.title, t, c.defaultValue,
+                                                                     c.required);
+    else if (starts("COMMENTS") || t == "FOLLOWUP WITH COMMENT")
+        (survey ? html::WriteSurveyComments : html::WriteFormComments)(f.s, c.field, c.title, c.width, c.height,
+                                                                       c.defaultValue, t, c.required);
+    else
+        (survey ? html::WriteSurveyText : html::WriteFormText)(f.s, c.field, c.title, "pw", c.width, t, c.defaultValue,
+                                                               c.required);
+    return f.Output();
+}
+
+/// Each case's fragment against its golden file, and the message lines it records.
+class QuestionGolden : public ::testing::TestWithParam<QuestionCase>
+{
+  protected:
+    void Check()
+    {
+        const QuestionCase& c = GetParam();
+        HtmlFixture f(c.Mode());
+        EXPECT_EQ(WriteQuestion(f, c), Golden(c.golden)) << c.golden;
+        ExpectMessages(f, c);
+        EXPECT_TRUE(f.port.shown.empty());
+    }
+};
 
 } // namespace tq::test

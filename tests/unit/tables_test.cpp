@@ -55,24 +55,3 @@ TEST(Tables, ChoicesTableInAWholePageIsADocumentOfItsOwnWithTheStarInTheCaption)
     EXPECT_EQ(f.Output(), Golden("survey/table_choices_required_whole_page.htm"));
     EXPECT_EQ(f.s.build.messageLines[1], "1. Rate");
 }
-
-TEST(Tables, NoColumnsWritesNoHeaderOrAnswerCellAndTwoTablesOpenTwoDocuments)
-{
-    HtmlFixture f("SURVEY");
-    TableColours(f);
-    f.s.build.wholePage = true;
-    f.s.build.values.ColChoice = "Caption";
-    html::WriteTableText(f.s, "table3", "", "TABLE TEXT REQUIRED", "", "no");
-    f.s.build.values.ColChoice = "Second";
-    html::WriteTableChoices(f.s, "table5", "", "TABLE CHOICES REQUIRED", "", "no");
-    const std::string out = f.Output();
-    EXPECT_EQ(out.find("bgcolor=\"FFFFFF\""), std::string::npos);
-    EXPECT_EQ(out.find("<td align=\"center\" bgcolor"), std::string::npos);
-    size_t count = 0;
-    for (size_t at = out.find("<html>"); at != std::string::npos; at = out.find("<html>", at + 1))
-        ++count;
-    EXPECT_EQ(count, 2u);
-    EXPECT_NE(out.find("\r\nCaption\r\n"), std::string::npos);
-    EXPECT_NE(out.find(" <p align=\"center\"><font face=\"arial\"></font></td>\r\n"), std::string::npos);
-    EXPECT_EQ(f.s.build.messageLineCount, 4);
-}
