@@ -96,15 +96,6 @@ bool ScriptedPort::openTarget(std::string_view target)
     return openResult;
 }
 
-std::optional<ProcessResult>
-ScriptedPort::runProcess(std::string_view program, const std::vector<std::string>& args, int)
-{
-    std::vector<std::string> call{std::string(program)};
-    call.insert(call.end(), args.begin(), args.end());
-    ran.push_back(std::move(call));
-    return Next(processResults, std::optional<ProcessResult>{}, ""); // none: the program could not start
-}
-
 std::optional<std::string> ScriptedPort::httpGet(std::string_view url, int)
 {
     httpUrls.emplace_back(url);
@@ -137,14 +128,6 @@ const Shown& ScriptedPort::last() const
     return ::testing::AssertionFailure() << "shown \"" << m.title << ": " << m.text << "\" (icon "
                                          << static_cast<int>(m.icon) << "), expected \"" << title << ": " << text
                                          << "\" (icon " << static_cast<int>(icon) << ")";
-}
-
-std::string Repeat(std::string_view text, int n)
-{
-    std::string out;
-    for (int i = 0; i < n; ++i)
-        out += text;
-    return out;
 }
 
 std::string ReadFileBytes(const std::string& path)

@@ -41,15 +41,12 @@ class ScriptedPort : public UiPort
     void openEditPage(int page, int row, std::string_view selectKey) override;
     void selectRow(int page, int row) override { selectedRows.push_back({page, row}); }
     void setBusy(bool on) override { busyCalls.push_back(on); }
-    void hidePreviews() override { ++previewsHidden; }
     bool startProgram(std::string_view program,
                       const std::vector<std::string>& args,
                       std::string_view workingFolder) override;
     bool openTarget(std::string_view target) override;
     void setClipboard(std::string_view text) override { clipboard = std::string(text); }
     std::optional<std::string> httpGet(std::string_view url, int timeoutMs) override;
-    std::optional<ProcessResult>
-    runProcess(std::string_view program, const std::vector<std::string>& args, int timeoutMs) override;
 
     /// Queues the answer of the next question.
     void answer(Answer a) { answers.push_back(a); }
@@ -59,8 +56,6 @@ class ScriptedPort : public UiPort
     void file(std::optional<std::string> s) { files.push_back(std::move(s)); }
     void color(std::optional<long> c) { colors.push_back(c); }
     void http(std::optional<std::string> body) { httpBodies.push_back(std::move(body)); }
-    /// Queues what the next program run gives (nullopt: it could not start).
-    void process(std::optional<ProcessResult> r) { processResults.push_back(std::move(r)); }
 
     /// Messages only (not questions), in order.
     std::vector<Shown> messages() const;
@@ -84,7 +79,6 @@ class ScriptedPort : public UiPort
     std::vector<EditCall> editCalls;
     std::vector<std::pair<int, int>> selectedRows;
     std::vector<bool> busyCalls;
-    int previewsHidden = 0;
     struct Started
     {
         std::string program;
@@ -97,9 +91,6 @@ class ScriptedPort : public UiPort
     bool openResult = true;
     std::string clipboard;
     std::vector<std::string> httpUrls;
-    std::deque<std::optional<ProcessResult>> processResults;
-    /// Programs run to their end: the program first, then its arguments.
-    std::vector<std::vector<std::string>> ran;
 };
 
 /// Reads a whole file as bytes; empty when it does not exist.
@@ -109,9 +100,6 @@ void WriteFileBytes(const std::string& path, const std::string& bytes);
 
 /// Whether a message has this text, title and icon (Icon::None: any icon).
 ::testing::AssertionResult Said(const Shown& m, std::string_view text, std::string_view title, Icon icon = Icon::None);
-
-/// The text `n` times over.
-std::string Repeat(std::string_view text, int n);
 
 /// A fresh temporary folder, removed with the object.
 class TempDir

@@ -20,22 +20,6 @@ build::LineWriter& Out(Session& s)
     return s.build.channels[1];
 }
 
-// The text through the scratch file: written with its line end and read back whole.
-std::string ThroughScratchFile(const std::string& dataFolder, const std::string& text)
-{
-    const std::string path = platform::JoinPath(dataFolder, "\\junk.txt");
-    {
-        std::ofstream out(path, std::ios::binary | std::ios::trunc);
-        out << text << "\r\n";
-        if (!out)
-            return text + "\r\n";
-    }
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream whole;
-    whole << in.rdbuf();
-    return whole.str();
-}
-
 } // namespace
 
 void WriteConditionChoices(Session& s,
@@ -146,42 +130,6 @@ void WriteDownloadList(Session& s)
     WriteItalicClose(s);
     out.line("</font>");
     WriteShadeClose(s);
-}
-
-std::string TextToAttribute(const std::string& dataFolder, const std::string& text, bool keepBlanks)
-{
-    if (model::EqualsNoCase(text, "NONE") || text.size() < 5)
-        return text;
-    std::string value = ThroughScratchFile(dataFolder, text);
-    model::ReplaceAll(value, "\r\n", "\\n");
-    model::ReplaceAll(value, "\n", "\\n"); // a line end typed on this platform may be a lone LF
-    while (value.size() >= 2 && value.compare(value.size() - 2, 2, "\\n") == 0)
-        value.erase(value.size() - 2);
-    if (!keepBlanks) {
-        model::ReplaceAll(value, "  ", "&nbsp;");
-        model::ReplaceAll(value, "\t", "&nbsp;&nbsp;&nbsp;");
-    }
-    return value;
-}
-
-std::string AttributeToText(const std::string& dataFolder, const std::string& text)
-{
-    if (model::EqualsNoCase(text, "NONE"))
-        return text;
-    std::string value = ThroughScratchFile(dataFolder, text);
-    if (value.size() >= 2 && value.compare(value.size() - 2, 2, "\r\n") == 0)
-        value.erase(value.size() - 2); // the line end the scratch file added
-    std::string out;
-    for (size_t i = 0; i < value.size();) {
-        if (value[i] == '\\' && i + 1 < value.size() && (value[i + 1] == 'n' || value[i + 1] == 'N')) {
-            out += "\r\n";
-            i += 2;
-        } else {
-            out += value[i++];
-        }
-    }
-    model::ReplaceAll(out, "&nbsp;", "  ");
-    return out;
 }
 
 } // namespace tq::html

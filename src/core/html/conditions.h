@@ -36,14 +36,4 @@ void WriteFollowupChoices(Session& s, std::string_view field, std::string_view i
 /// DOWNLOAD of "NO" leaves the list out.
 void WriteDownloadList(Session& s);
 
-/// The edit window's text as an attribute value, through the scratch file
-/// \junk.txt in `dataFolder`: CR LF becomes "\n", trailing "\n" go, and unless
-/// `keepBlanks` two blanks become "&nbsp;" and a tab three. "NONE" in any
-/// case, and a text of fewer than 5 characters, stay as they are.
-std::string TextToAttribute(const std::string& dataFolder, const std::string& text, bool keepBlanks);
-
-/// The reverse for the edit window: "\n" (any case) becomes CR LF and
-/// "&nbsp;" two blanks. "NONE" in any case stays.
-std::string AttributeToText(const std::string& dataFolder, const std::string& text);
-
 } // namespace tq::html

@@ -67,24 +67,4 @@ std::string WriteQuickPreview(Session& s, std::string_view attributeName, std::s
     return path;
 }
 
-std::string PreviewAttribute(Session& s,
-                             std::string_view attributeName,
-                             const std::string& windowText,
-                             bool keepBlanks,
-                             const std::function<void(const std::string&)>& showFile,
-                             const std::function<void()>& entryPreview)
-{
-    const std::string value = TextToAttribute(s.DataFolder, windowText, keepBlanks);
-    if (UsesQuickPreview(attributeName)) {
-        const std::string path = WriteQuickPreview(s, attributeName, value);
-        if (showFile)
-            showFile(path);
-    } else if (entryPreview) {
-        s.build.entryPreview = true;
-        entryPreview();
-        s.build.entryPreview = false;
-    }
-    return value;
-}
-
 } // namespace tq::html

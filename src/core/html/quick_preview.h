@@ -25,15 +25,4 @@ bool UsesQuickPreview(std::string_view attributeName);
 /// path, which the caller shows. More than 50 lines throws model::InternalError.
 std::string WriteQuickPreview(Session& s, std::string_view attributeName, std::string_view text);
 
-/// The edit window's Preview: the text goes through TextToAttribute (the
-/// result is returned, for the edit page's row); then a plain text gets the
-/// quick preview, shown through `showFile`, and any other attribute the Entry
-/// preview, run with entryPreview set during the call.
-std::string PreviewAttribute(Session& s,
-                             std::string_view attributeName,
-                             const std::string& windowText,
-                             bool keepBlanks,
-                             const std::function<void(const std::string&)>& showFile,
-                             const std::function<void()>& entryPreview);
-
 } // namespace tq::html
