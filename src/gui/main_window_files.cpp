@@ -48,8 +48,7 @@ void MainWindow::registerFileCommands()
     registerCommand("RestoreDefaults", [this] {
         store::DefaultsHooks hooks;
         hooks.fillPickLists = [this](Session&) { fillPickLists(); };
-        if (store::RestoreDefaults(m_session, *m_port, hooks))
-            refreshAll();
+        store::RestoreDefaults(m_session, *m_port, hooks); // the views refresh after every command
     });
     registerCommand("EditFormHistory", [&] { store::EditHistory(s, ui, store::RecentList::Forms); });
     registerCommand("EditSurveyHistory", [&] { store::EditHistory(s, ui, store::RecentList::Surveys); });

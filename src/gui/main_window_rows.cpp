@@ -27,7 +27,7 @@ model::ModeHooks MainWindow::modeHooks()
     hooks.busyMark = [this] { return m_session.run.busyMark; };
     hooks.loadInProgress = [this] { return m_session.run.LoadInProgress; };
     hooks.reloadHistoryMenus = [this](std::string_view mode) {
-        if (model::ToUpper(mode) == "SURVEY")
+        if (model::EqualsNoCase(mode, "SURVEY"))
             store::RefreshSurveyList(m_session, *m_port);
         else
             store::RefreshFormList(m_session, *m_port);
