@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "cmd_serve.h"
 #include "commands.h"
 #include "console_port.h"
@@ -199,9 +199,9 @@ int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostre
     ConsolePort port(err);
     port.replace = o.replace;
     if (o.wholePage)
-        build::CreateFormHTMLCode(*s, port);
+        compose::CreateFormHTMLCode(*s, port);
     else
-        build::CreateFormOnly(*s, port);
+        compose::CreateFormOnly(*s, port);
 
     const auto& b = s->build;
     if (b.buildError != 0 || b.setupHold || b.cancelled || b.endProgram)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "build/build_state.h"
+#include "compose/build_state.h"
 #include "model/catalogue.h"
 #include "model/entry_store.h"
 #include "model/settings.h"
@@ -20,7 +20,7 @@ struct Session
     model::EntryStore store;
     model::TemplateSettings settings;
     model::Catalogue catalogue;
-    build::BuildState build;
+    compose::BuildState build;
     store::SetupStore setup;
     store::RunValues run;
     std::string DataFolder;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "local_test_window.h"
 
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "shell/local_test.h"
 
 #include <QDir>
@@ -225,7 +225,7 @@ bool LocalTestWindow::start(const Session& session, UiPort& ui)
         return false;
     }
     LocalBuildPort buildPort(ui);
-    build::CreateFormHTMLCode(*copy, buildPort);
+    compose::CreateFormHTMLCode(*copy, buildPort);
     const auto& b = copy->build;
     if (b.buildError != 0 || b.setupHold || b.cancelled || b.endProgram || b.htmlPath.empty()) {
         stop();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The build commands and the commands of the Help menu that stay in the program.
 #include "about_dialog.h"
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "busy_cursor.h"
 #include "final_page.h"
 #include "main_window.h"
@@ -27,9 +27,9 @@ void MainWindow::runBuild(bool wholePage)
     {
         BusyCursor busy;
         if (wholePage)
-            build::CreateFormHTMLCode(s, *m_port);
+            compose::CreateFormHTMLCode(s, *m_port);
         else
-            build::CreateFormOnly(s, *m_port);
+            compose::CreateFormOnly(s, *m_port);
     }
     if (s.build.endProgram) {
         endProgram();

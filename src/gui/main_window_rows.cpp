@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The row commands of the four Pages, the quick preview and the mode commands:
 // thin calls into the model's editing, reordering and new-project operations.
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "busy_cursor.h"
 #include "create_page.h"
 #include "main_window.h"
@@ -157,7 +157,7 @@ void MainWindow::quickPreview(int page, int pickIndex)
         if (model::AddToFirstFreeRow(c, page, pickIndex) || !state.PreviewSlots[0].InputTypeName.empty()) {
             s.build.entryPreview = true;
             s.build.wholePage = true;
-            build::BuildOutput(s, *m_port, 0);
+            compose::BuildOutput(s, *m_port, 0);
             s.build.entryPreview = false;
             s.build.wholePage = false;
         } else {

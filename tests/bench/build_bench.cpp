@@ -3,7 +3,7 @@
 // two samples of the mode (every Input Type) repeated over the Pages until
 // 25, 50 or 100 rows are used. The cost must grow linearly with the rows.
 #include "bench_support.h"
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "model/text_ops.h"
 #include "session.h"
 #include "store/project_file.h"
@@ -98,7 +98,7 @@ void BM_Build(benchmark::State& state, bool survey)
     // the first build makes the output files; later ones replace them
     {
         auto s = MakeProject(survey, count, web, data);
-        build::CreateFormOnly(*s, ui);
+        compose::CreateFormOnly(*s, ui);
         if (s->build.buildError != 0) {
             state.SkipWithError(ui.last.c_str());
             return;
@@ -108,7 +108,7 @@ void BM_Build(benchmark::State& state, bool survey)
         state.PauseTiming();
         auto s = MakeProject(survey, count, web, data);
         state.ResumeTiming();
-        build::CreateFormOnly(*s, ui);
+        compose::CreateFormOnly(*s, ui);
         benchmark::DoNotOptimize(s->build.buildError);
     }
     state.SetComplexityN(count);
@@ -144,7 +144,7 @@ void BM_BuildTenMegabyteTitle(benchmark::State& state)
         auto s = MakeProject(false, 1, web, data);
         s->store.pages[0][1] = title;
         state.ResumeTiming();
-        build::CreateFormOnly(*s, ui);
+        compose::CreateFormOnly(*s, ui);
         if (s->build.buildError != 0) {
             state.SkipWithError(ui.last.c_str());
             break;

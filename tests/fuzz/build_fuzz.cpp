@@ -3,7 +3,7 @@
 // bytes, then built in both modes with both commands, every question answered.
 // The SetupEntry is pinned to a scratch web folder so that no build can write
 // outside it, whatever folder the bytes name.
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "port/ui_port.h"
 #include "session.h"
 #include "store/project_file.h"
@@ -110,9 +110,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         s->store.pages[0][0].InputTypeName = "Setup";
         s->store.pages[0][0].AttributeText = SetupText(web, survey);
         if (run < 2)
-            tq::build::CreateFormOnly(*s, port);
+            tq::compose::CreateFormOnly(*s, port);
         else
-            tq::build::CreateFormHTMLCode(*s, port);
+            tq::compose::CreateFormHTMLCode(*s, port);
     }
     return 0;
 }

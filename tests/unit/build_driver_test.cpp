@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
@@ -12,7 +12,7 @@
 using tq::Answer;
 using tq::Buttons;
 using tq::Icon;
-using tq::build::BuildOutput;
+using tq::compose::BuildOutput;
 using tq::test::ReadFileBytes;
 using tq::test::ScriptedPort;
 using tq::test::TempDir;
@@ -56,7 +56,7 @@ const std::string kPageOfSetupOnly = "<form action=\"formtql.php\" method=\"post
 
 TEST(OutputPaths, BothFilesFollowTheFolderAndTheOutputName)
 {
-    using namespace tq::build;
+    using namespace tq::compose;
     EXPECT_EQ(ComposeHtmlPath("/srv/web", "formtql.htm"), "/srv/web/formtql.htm");
     EXPECT_EQ(ComposeHtmlPath("/srv/web/", "formtql.htm"), "/srv/web/formtql.htm");
     EXPECT_EQ(ComposeFormAction("formtql.HTM"), "formtql.php");
@@ -224,7 +224,7 @@ TEST(WholeBuild, FormWithTitlesLinesPicturesAndVideosInAFrame)
     p.add(4, "Picture", kPicture);
     p.add(5, "Video", Video("https://www.tarnquill.example/test/videos/clip.wmv", "center", "ON", "1"));
     ScriptedPort port;
-    tq::build::CreateFormHTMLCode(*p.s, port);
+    tq::compose::CreateFormHTMLCode(*p.s, port);
     EXPECT_TRUE(port.shown.empty());
     EXPECT_EQ(ReadFileBytes(p.html()), Golden("form_whole_non_questions.htm"));
 }
@@ -240,7 +240,7 @@ TEST(WholeBuild, SurveyPutsVideosAndPicturesInTheWrapperTable)
     p.add(3, "Picture", kPicture);
     p.add(4, "Blank Line", kBlank);
     ScriptedPort port;
-    tq::build::CreateFormHTMLCode(*p.s, port);
+    tq::compose::CreateFormHTMLCode(*p.s, port);
     EXPECT_TRUE(port.shown.empty());
     EXPECT_EQ(ReadFileBytes(p.web.file("surveytql.htm")), Golden("survey_whole_non_questions.htm"));
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/extraction.h"
+#include "compose/extraction.h"
 #include "scripted_port.h"
 #include "session.h"
 
@@ -64,7 +64,7 @@ TEST(Extraction, FaultsThatStopTheBuild)
         s.build.setupValues.GlobalTextColor = "NONE";
         s.build.entryPreview = r.preview;
         std::string text = r.text;
-        tq::build::ExtractEntry(s, ui, r.type, text);
+        tq::compose::ExtractEntry(s, ui, r.type, text);
         EXPECT_EQ(s.build.buildError, r.err);
         ASSERT_EQ(ui.shown.size(), r.said.empty() ? 0u : 1u);
         for (const auto& m : ui.shown)

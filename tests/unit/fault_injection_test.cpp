@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writes that fail half way: the user's previous files stay byte for byte.
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "port/file_system.h"
 #include "project_text.h"
 #include "scripted_port.h"
@@ -116,7 +116,7 @@ TEST_F(FailedWrite, ABuildKeepsTheOldPageAndScriptAndStops)
     port.answer(Answer::Yes); // Duplicate File
     {
         auto hook = fail(ENOSPC, 2);
-        tq::build::CreateFormOnly(*s, port);
+        tq::compose::CreateFormOnly(*s, port);
     }
     EXPECT_EQ(s->build.buildError, 1);
     EXPECT_TRUE(Said(port.last(), std::string(std::strerror(ENOSPC)) + " when writing " + html,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "project_text.h"
 #include "scripted_port.h"
 #include "session.h"
@@ -47,7 +47,7 @@ TEST_F(Instructions, AWholePageFormNamesBothFilesAndTheServerPath)
     s->store.state.ProjectMode = "FORM";
     s->setup.rows[2].WebFolderPath = web.path() + "/";
     s->setup.rows[2].WebServerPath = ";https://site.example/forms";
-    build::CreateFormHTMLCode(*s, port);
+    compose::CreateFormHTMLCode(*s, port);
     EXPECT_EQ(port.page.instructions,
               "Web Server File Path: https://site.example/forms\r\n"
               "   Files to upload to your Web Server: formtql.htm, formtql.php\r\n"
@@ -65,7 +65,7 @@ TEST_F(Instructions, AFragmentSurveyTakesTheSingularAndThePasteSteps)
 {
     s->store.state.ProjectMode = "SURVEY";
     s->setup.rows[0].WebFolderPath = web.path();
-    build::CreateFormOnly(*s, port);
+    compose::CreateFormOnly(*s, port);
     EXPECT_EQ(port.page.title, "INSTRUCTIONS ON GETTING YOUR SURVEY ON THE INTERNET ");
     EXPECT_EQ(port.page.buttonCaption, "Copy SURVEY data to the clipboard");
     EXPECT_EQ(port.page.uploadLabel, "UPLOAD THE FOLLOWING FILE TO YOUR WEB SERVER");

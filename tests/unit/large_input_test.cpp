@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 #include "model/attribute_text.h"
 #include "project_text.h"
 #include "scripted_port.h"
@@ -53,7 +53,7 @@ TEST(LargeInput, PassingAListBoundIsToldAsAnInternalErrorAndStopsTheBuild)
     const size_t at = text.find(key) + key.size();
     text.replace(at, text.find(']', at) - at, choices);
     s->store.pages[0][1] = {"Dropdown Required", text, "2", false, tq::model::Highlight::None};
-    tq::build::CreateFormOnly(*s, port);
+    tq::compose::CreateFormOnly(*s, port);
     EXPECT_EQ(s->build.buildError, 1);
     ASSERT_FALSE(port.messages().empty());
     EXPECT_TRUE(Said(port.last(), "internal error: list bound 100 passed", "INTERNAL ERROR"));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/extraction.h"
-#include "build/setup_checks.h"
-#include "build/validation.h"
+#include "compose/extraction.h"
+#include "compose/setup_checks.h"
+#include "compose/validation.h"
 #include "model/text_ops.h"
 #include "project_text.h"
 #include "scripted_port.h"
@@ -21,8 +21,8 @@ TEST(SetupRead, SampleValuesHoldOrStopTheBuildWithTheirMessages)
     ScriptedPort ui;
     s.store.state.ProjectMode = "FORM";
     std::string text = tq::test::SetupEntryText("/srv/www", {.from = ";My Web Page"});
-    tq::build::FixLineBreaks(text); // as the build reads it
-    tq::build::ExtractSetupEntry(s, ui, text);
+    tq::compose::FixLineBreaks(text); // as the build reads it
+    tq::compose::ExtractSetupEntry(s, ui, text);
     EXPECT_TRUE(s.build.setupHold);
     EXPECT_EQ(s.build.buildError, 0);
     ASSERT_EQ(ui.editCalls.size(), 1u);
@@ -43,8 +43,8 @@ TEST(SetupRead, SampleValuesHoldOrStopTheBuildWithTheirMessages)
     survey.store.state.ProjectMode = "SURVEY";
     text = tq::test::SetupEntryText("/srv/www", {.from = "Club", .lead = "[Background Color=1] [Info: x]"});
     text.replace(text.find("[Completed="), 11, "[Completed=;");
-    tq::build::FixLineBreaks(text);
-    tq::build::ExtractSetupEntry(survey, ui2, text);
+    tq::compose::FixLineBreaks(text);
+    tq::compose::ExtractSetupEntry(survey, ui2, text);
     EXPECT_EQ(survey.build.buildError, 1);
     EXPECT_FALSE(survey.build.setupHold);
     EXPECT_TRUE(
@@ -70,7 +70,7 @@ class LineChecks : public ::testing::Test
         s.store.state.commitMode = commitMode;
         ui.clear();
         int err = -1;
-        tq::build::CheckAttribute(s, ui, key, value, err);
+        tq::compose::CheckAttribute(s, ui, key, value, err);
         lastValue = value;
         if (err == 0) {
             EXPECT_TRUE(ui.shown.empty());

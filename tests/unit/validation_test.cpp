@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/validation.h"
+#include "compose/validation.h"
 #include "scripted_port.h"
 #include "session.h"
 
@@ -8,7 +8,7 @@
 using tq::Session;
 using tq::View;
 using tq::test::ScriptedPort;
-using namespace tq::build;
+using namespace tq::compose;
 
 TEST(Reports, UnknownTypeShowsItsPageRowAndTheStopBox)
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "html/dispatch.h"
 
-#include "build/extraction.h"
+#include "compose/extraction.h"
 #include "html/choice_inputs.h"
 #include "html/conditions.h"
 #include "html/headings.h"
@@ -17,7 +17,7 @@ namespace tq::html {
 
 namespace {
 
-using build::PhpWriter;
+using compose::PhpWriter;
 
 struct TableRow
 {
@@ -160,7 +160,7 @@ bool SetsConditionField(EntryWriter writer, bool survey)
     }
 }
 
-void ClearEntryValues(build::WorkingValues& v)
+void ClearEntryValues(compose::WorkingValues& v)
 {
     v.DefaultValue.clear();
     v.VisibleDownload.clear();
@@ -196,20 +196,20 @@ void DispatchEntry(Session& s,
     if (row.writer == EntryWriter::HorizontalLine) {
         if (pass != 1)
             return;
-        build::ExtractHorizontalLine(s, ui, text);
+        compose::ExtractHorizontalLine(s, ui, text);
         if (b.buildError == 1)
             return;
         WriteHorizontalLine(s);
         return;
     }
 
-    build::ExtractEntry(s, ui, inputType, text);
+    compose::ExtractEntry(s, ui, inputType, text);
     if (b.buildError == 1)
         return;
 
     if (pass != 1) {
         if (row.php != PhpWriter::None)
-            build::WriteEntryPhp(s, ui, row.php, fieldName, t);
+            compose::WriteEntryPhp(s, ui, row.php, fieldName, t);
         return;
     }
 

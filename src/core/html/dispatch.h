@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "build/php_pass.h"
+#include "compose/php_pass.h"
 #include "session.h"
 
 #include <string>
@@ -33,7 +33,7 @@ enum class EntryWriter {
 struct DispatchRow
 {
     EntryWriter writer = EntryWriter::None;
-    build::PhpWriter php = build::PhpWriter::None;
+    compose::PhpWriter php = compose::PhpWriter::None;
 };
 
 /// The row of the dispatch table for an Input Type (compared upper-cased,
@@ -49,7 +49,7 @@ bool SetsConditionField(EntryWriter writer, bool survey);
 /// visible-download values, title, password, width, height, user name,
 /// error texts, required value, and the lists of choices, check boxes,
 /// default lines and introduction lines.
-void ClearEntryValues(build::WorkingValues& v);
+void ClearEntryValues(compose::WorkingValues& v);
 
 /// The one road of every Entry in both passes: clears the Entry values,
 /// extracts the attributes (all types but HORIZONTAL LINE), then in pass 1

@@ -9,7 +9,7 @@ namespace tq::html {
 
 namespace {
 
-build::LineWriter& Out(Session& s)
+compose::LineWriter& Out(Session& s)
 {
     return s.build.channels[1];
 }
@@ -45,7 +45,7 @@ std::string RewriteBlanks(std::string line)
     return line;
 }
 
-std::string FontFaceSize(const build::WorkingValues& v)
+std::string FontFaceSize(const compose::WorkingValues& v)
 {
     return "<font face=" + Quoted(kFace) + " size=" + Quoted(v.TitleSize) + ">";
 }
@@ -184,21 +184,21 @@ bool IsSurvey(const Session& s)
     return model::EqualsNoCase(s.store.state.ProjectMode, "SURVEY");
 }
 
-void AppendMessageLine(build::BuildState& b, std::string text)
+void AppendMessageLine(compose::BuildState& b, std::string text)
 {
-    if (b.messageLineCount >= build::kMessageLineSlots)
-        throw model::InternalError("internal error: messageLines bound " + std::to_string(build::kMessageLineSlots) +
+    if (b.messageLineCount >= compose::kMessageLineSlots)
+        throw model::InternalError("internal error: messageLines bound " + std::to_string(compose::kMessageLineSlots) +
                                    " passed");
     ++b.messageLineCount;
     b.messageLines[static_cast<size_t>(b.messageLineCount)] = std::move(text);
 }
 
-void NumberForMessage(build::BuildState& b, std::string& caption, std::string_view inputType)
+void NumberForMessage(compose::BuildState& b, std::string& caption, std::string_view inputType)
 {
     caption = PairNumber(b.messageNumber, inputType) + ". " + caption;
 }
 
-void NumberForPage(build::BuildState& b, std::string& title, std::string_view inputType)
+void NumberForPage(compose::BuildState& b, std::string& title, std::string_view inputType)
 {
     if (!model::EqualsNoCase(b.setupValues.NumberEachQuestion, "YES"))
         return;
@@ -207,7 +207,7 @@ void NumberForPage(build::BuildState& b, std::string& title, std::string_view in
     title = prefix + title;
 }
 
-void RecordQuestion(build::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType)
+void RecordQuestion(compose::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType)
 {
     std::string caption = title;
     NumberForMessage(b, caption, inputType);
@@ -216,7 +216,7 @@ void RecordQuestion(build::BuildState& b, std::string_view fieldName, std::strin
     NumberForPage(b, title, inputType);
 }
 
-void SplitTitle(build::BuildState& b, std::string_view title)
+void SplitTitle(compose::BuildState& b, std::string_view title)
 {
     if (title.empty())
         return;

@@ -94,7 +94,7 @@ bool HasEntryPhp(std::string_view inputType)
                                              "FOLLOWUP WITH COMMENT"});
 }
 
-void NumberMessages(build::BuildState& state, std::string_view inputType, std::string& msg, std::string& msg2)
+void NumberMessages(compose::BuildState& state, std::string_view inputType, std::string& msg, std::string& msg2)
 {
     if (!model::EqualsNoCase(state.setupValues.NumberEachQuestion, "YES"))
         return;
@@ -119,7 +119,7 @@ void NumberMessages(build::BuildState& state, std::string_view inputType, std::s
     msg2 = label + msg2 + suffix;
 }
 
-void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::string_view keyView)
+void WriteGeneralPhp(compose::BuildState& state, std::string_view inputType, std::string_view keyView)
 {
     const std::string t = model::ToUpper(inputType);
     // (A test of the first four characters against "HORIZONTAL LINE" never
@@ -128,12 +128,12 @@ void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::
         return;
 
     const std::string key(keyView);
-    const build::WorkingValues& v = state.values;
+    const compose::WorkingValues& v = state.values;
     std::string msg = v.MSG;
     std::string msg2 = v.MSG2;
     NumberMessages(state, t, msg, msg2);
     const bool required = model::EqualsNoCase(v.REQ, "YES");
-    build::LineWriter& out = state.channels[1];
+    compose::LineWriter& out = state.channels[1];
 
     if (OneOf(t, {"NAME", "SUBJECT", "PHONE NUMBER", "CELL PHONE NUMBER", "COMMENTS REQUIRED", "COMMENTS NOT REQUIRED",
                   "COMMENTS WITH TEXT", "QUESTION MULTIPLE CHOICES COMMENTS", "QUESTION MULTIPLE CHOICES",
@@ -193,9 +193,9 @@ void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::
     }
 }
 
-void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inputType, std::string_view keyView)
+void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view keyView)
 {
-    const build::WorkingValues& v = state.values;
+    const compose::WorkingValues& v = state.values;
     if (keyView.empty() || v.Title.empty())
         return;
     const std::string t = model::ToUpper(inputType);
@@ -207,7 +207,7 @@ void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inp
     if (t == "FOLLOWUP FILES WITH PASSWORD")
         req = "yes";
     const bool required = model::EqualsNoCase(req, "YES");
-    build::LineWriter& out = state.channels[1];
+    compose::LineWriter& out = state.channels[1];
 
     if (t == "DOWNLOAD FILES") {
         if (!required) {
@@ -249,7 +249,7 @@ void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inp
     state.lastConditionField.clear();
 }
 
-void WriteEntryPhp(UiPort& ui, build::BuildState& state, std::string_view inputType, std::string_view key)
+void WriteEntryPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view key)
 {
     if (!HasEntryPhp(inputType))
         return;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "build/build_state.h"
+#include "compose/build_state.h"
 #include "port/ui_port.h"
 
 #include <string>
@@ -23,13 +23,13 @@ bool IsDownloadType(std::string_view inputType);
 /// and gets " 3a. ", a Followup keeps the number and gets " 3b. ", every other
 /// type advances it and gets "3. "; " for question 3a" goes behind. Does
 /// nothing when the switch is off.
-void NumberMessages(build::BuildState& state, std::string_view inputType, std::string& msg, std::string& msg2);
+void NumberMessages(compose::BuildState& state, std::string_view inputType, std::string& msg, std::string& msg2);
 
 /// The general writer: the checks of one field on channel 1, from the Entry's
 /// values (MSG, MSG2, REQ, USERNAME, PASSWORD) in `state.values`, and the new
 /// `lastConditionField`. Writes nothing for an empty key, VIDEO, and the
 /// TITLE and SURVEY types; other types without checks only number.
-void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::string_view key);
+void WriteGeneralPhp(compose::BuildState& state, std::string_view inputType, std::string_view key);
 
 /// The download writer. DOWNLOAD FILES writes download_file() or its check,
 /// DOWNLOAD FILES WITH PASSWORD its check; FOLLOWUP FILES WITH PASSWORD must
@@ -37,11 +37,11 @@ void WriteGeneralPhp(build::BuildState& state, std::string_view inputType, std::
 /// and its password check on channel 2 (\downtemp.txt). Out of place, it shows
 /// the "ERROR" box and sets `buildError` to 1. Writes nothing for an empty key
 /// or title.
-void WriteDownloadPhp(UiPort& ui, build::BuildState& state, std::string_view inputType, std::string_view key);
+void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view key);
 
 /// The PHP pass's call for one Entry whose attributes are extracted: the
 /// download writer or the general writer by Input Type; nothing for a type
 /// without a script writer.
-void WriteEntryPhp(UiPort& ui, build::BuildState& state, std::string_view inputType, std::string_view key);
+void WriteEntryPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view key);
 
 } // namespace tq::php

@@ -10,7 +10,7 @@ namespace tq::php {
 
 namespace {
 
-void WriteLines(build::LineWriter& out, std::initializer_list<std::string_view> lines)
+void WriteLines(compose::LineWriter& out, std::initializer_list<std::string_view> lines)
 {
     for (std::string_view line : lines)
         out.line(line);
@@ -30,10 +30,10 @@ constexpr std::string_view kLinkOpen =
 
 } // namespace
 
-void WriteDownloadFile(build::LineWriter& out, const build::BuildState& state, std::string_view serverPath)
+void WriteDownloadFile(compose::LineWriter& out, const compose::BuildState& state, std::string_view serverPath)
 {
-    CheckCount(state.downloadTextCount, build::kDownloadTextSlots, "download text");
-    CheckCount(state.downloadFileCount, build::kDownloadFileSlots, "download file");
+    CheckCount(state.downloadTextCount, compose::kDownloadTextSlots, "download text");
+    CheckCount(state.downloadFileCount, compose::kDownloadFileSlots, "download file");
 
     WriteLines(out, {
                         R"~(/*************************/)~",
@@ -103,7 +103,7 @@ void WriteDownloadFile(build::LineWriter& out, const build::BuildState& state, s
                     });
 }
 
-void WriteShowError(build::LineWriter& out)
+void WriteShowError(compose::LineWriter& out)
 {
     WriteLines(
         out,

@@ -188,7 +188,7 @@ constexpr std::string_view kLibrary[] = {
 
 } // namespace
 
-void WriteFunctionLibrary(build::LineWriter& out)
+void WriteFunctionLibrary(compose::LineWriter& out)
 {
     for (std::string_view line : kLibrary)
         out.line(line);

@@ -12,7 +12,7 @@ namespace tq::php {
 
 namespace {
 
-void WriteLines(build::LineWriter& out, std::initializer_list<std::string_view> lines)
+void WriteLines(compose::LineWriter& out, std::initializer_list<std::string_view> lines)
 {
     for (std::string_view line : lines)
         out.line(line);
@@ -25,13 +25,13 @@ bool IsRecipient(const std::string& email)
 
 } // namespace
 
-void WriteScriptOpening(build::LineWriter& out)
+void WriteScriptOpening(compose::LineWriter& out)
 {
     out.line("<?php");
     out.line("");
 }
 
-void WriteValidationBanner(build::LineWriter& out, const build::SetupValues& setup)
+void WriteValidationBanner(compose::LineWriter& out, const compose::SetupValues& setup)
 {
     std::string to = "$to  = \"" + setup.EMAIL1;
     if (IsRecipient(setup.EMAIL2))
@@ -53,14 +53,14 @@ void WriteValidationBanner(build::LineWriter& out, const build::SetupValues& set
                     });
 }
 
-void WriteOptionLines(build::LineWriter& out)
+void WriteOptionLines(compose::LineWriter& out)
 {
     WriteLines(out, {"", "$option = $_POST['option'];", "$drop_down = $_POST['drop_down'];"});
 }
 
-void WriteMessageBody(build::LineWriter& out, const build::BuildState& state)
+void WriteMessageBody(compose::LineWriter& out, const compose::BuildState& state)
 {
-    if (state.messageLineCount < 0 || state.messageLineCount > build::kMessageLineSlots)
+    if (state.messageLineCount < 0 || state.messageLineCount > compose::kMessageLineSlots)
         throw model::InternalError("internal error: message line count " + std::to_string(state.messageLineCount) +
                                    " out of range");
     for (int i = 1; i <= state.messageLineCount; i += 2) {
@@ -90,9 +90,9 @@ void WriteMessageBody(build::LineWriter& out, const build::BuildState& state)
     }
 }
 
-void WriteScriptTail(build::LineWriter& out, const build::BuildState& state, std::string_view serverPath)
+void WriteScriptTail(compose::LineWriter& out, const compose::BuildState& state, std::string_view serverPath)
 {
-    const build::SetupValues& setup = state.setupValues;
+    const compose::SetupValues& setup = state.setupValues;
     WriteLines(out, {
                         "",
                         "/***********************************/",

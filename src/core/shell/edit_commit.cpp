@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The edit page's help texts, its commit and its two ways out.
-#include "build/setup_checks.h"
+#include "compose/setup_checks.h"
 #include "model/text_ops.h"
 #include "session.h"
 #include "shell/edit_page.h"
@@ -168,7 +168,7 @@ int CheckEditRows(Session& s, UiPort& ui, EditState& st, bool keepValues)
             continue;
         std::string value(model::Trim(f.Value));
         int err = 0;
-        build::CheckAttribute(s, ui, f.Key, value, err);
+        compose::CheckAttribute(s, ui, f.Key, value, err);
         if (keepValues)
             f.Value = value; // two e-mail tests put "none" into the row
         if (err != 0) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/edit_page.h"
 
-#include "build/setup_checks.h"
+#include "compose/setup_checks.h"
 #include "model/attribute_text.h"
 #include "model/internal_error.h"
 #include "model/text_ops.h"

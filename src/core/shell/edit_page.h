@@ -130,13 +130,13 @@ void ShowPageHelp(UiPort& ui, const EditState& st);
 /// the first "=", the value and "]", then its help line and a blank line.
 std::string ComposeEditText(const EditState& st);
 
-/// The checks of the commit: build::CheckAttribute on every shown row with a
+/// The checks of the commit: compose::CheckAttribute on every shown row with a
 /// key (none while QuickPreviewActive). Returns 1 at the first failure with
 /// the row marked failed and `st.failedRow` set; with `keepValues` a value
 /// that a check changed ("none") goes back into its row.
 int CheckEditRows(Session& s, UiPort& ui, EditState& st, bool keepValues);
 
-/// Commit. Runs build::CheckAttribute on every shown row (unless
+/// Commit. Runs compose::CheckAttribute on every shown row (unless
 /// QuickPreviewActive) and returns 1 at the first failure, with the row
 /// marked in `st.failedRow` and the page left open; hidden rows are kept as
 /// they stand. On success (0) the SETUP values are copied into the settings

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "build/build_state.h"
+#include "compose/build_state.h"
 #include "port/ui_port.h"
 #include "store/setup_store.h"
 
@@ -56,11 +56,11 @@ void ViewTarnquillFolder(std::string_view dataFolder, UiPort& ui);
 
 /// ViewFolder (final page): opens the output folder of the last build with
 /// its trailing separator removed; nothing when there was no build.
-void ViewFolder(const build::BuildState& build, UiPort& ui);
+void ViewFolder(const compose::BuildState& build, UiPort& ui);
 
 /// ShowOutputInEditor: opens the last output file (the page) with the
 /// desktop's handler; nothing when there was no build. Returns true when it
 /// was opened.
-bool ShowOutputInEditor(const build::BuildState& build, UiPort& ui);
+bool ShowOutputInEditor(const compose::BuildState& build, UiPort& ui);
 
 } // namespace tq::shell

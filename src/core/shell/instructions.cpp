@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/instructions.h"
 
-#include "build/validation.h"
+#include "compose/validation.h"
 #include "model/attribute_text.h"
 #include "model/text_ops.h"
 #include "port/platform.h"

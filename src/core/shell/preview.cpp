@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/preview.h"
 
-#include "build/build_driver.h"
-#include "build/validation.h"
+#include "compose/build_driver.h"
+#include "compose/validation.h"
 #include "html/quick_preview.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
@@ -23,17 +23,17 @@ std::string PreviewEntry(Session& s, UiPort& ui, EditState& st)
 
     state.PreviewSlots[0] = {st.EntryName, ComposeEditText(st)};
     state.PreviewSlots[1] = {};
-    if (build::IsConditionType(st.EntryName) && st.EditRow + 1 < model::kRowsPerPage) {
+    if (compose::IsConditionType(st.EntryName) && st.EditRow + 1 < model::kRowsPerPage) {
         const auto& below =
             s.store.pages.at(static_cast<size_t>(st.EditPage - 1)).at(static_cast<size_t>(st.EditRow + 1));
-        if (build::IsFollowupType(below.InputTypeName))
+        if (compose::IsFollowupType(below.InputTypeName))
             state.PreviewSlots[1] = {below.InputTypeName, below.AttributeText};
     }
     state.PreviewFromEdit = true;
     b.wholePage = true;
     b.editPreview = true;
     b.entryPreview = true;
-    build::BuildOutput(s, ui, st.EditPage + 1);
+    compose::BuildOutput(s, ui, st.EditPage + 1);
     const bool shown = b.buildError != 1;
     b.entryPreview = false;
     b.wholePage = false;
@@ -70,7 +70,7 @@ int SetShadeWidthAll(Session& s, UiPort& ui)
             if (e.InputTypeName.empty() || model::FindNoCase(e.AttributeText, "[SHADE WIDTH") == std::string::npos)
                 continue;
             std::string text = e.AttributeText;
-            build::RewriteAttribute(s, "[SHADE WIDTH", value, text);
+            compose::RewriteAttribute(s, "[SHADE WIDTH", value, text);
             if (s.build.buildError != 0)
                 return changed;
             e.AttributeText = std::move(text);

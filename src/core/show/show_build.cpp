@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "show/show_build.h"
 
-#include "build/line_writer.h"
+#include "compose/line_writer.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "show/show_file.h"
@@ -225,7 +225,7 @@ bool BuildShow(Session& session, std::string_view programFolder, UiPort& ui)
         text = ss.str();
     }
 
-    build::LineWriter out;
+    compose::LineWriter out;
     const std::string showPath = platform::JoinPath(folder, "\\photoshow.php");
     errno = 0;
     if (!out.open(showPath)) {

@@ -10,7 +10,7 @@ namespace tq {
 struct Session;
 }
 
-namespace tq::build {
+namespace tq::compose {
 
 /// Reads the attributes that `inputType` needs from the front of `text` (a
 /// working copy; it is consumed) into the build's working values, in the
@@ -36,4 +36,4 @@ bool TakeEndMark(Session& s, UiPort& ui, std::string& text, std::string_view exp
 /// Reads one key into `value`; false (and `buildError` 1) on a fault.
 bool TakeKey(Session& s, UiPort& ui, std::string& text, std::string_view key, std::string& value);
 
-} // namespace tq::build
+} // namespace tq::compose

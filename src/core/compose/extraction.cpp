@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/extraction.h"
+#include "compose/extraction.h"
 
-#include "build/setup_checks.h"
-#include "build/validation.h"
+#include "compose/setup_checks.h"
+#include "compose/validation.h"
 #include "html/globals.h"
 #include "model/attribute_text.h"
 #include "model/text_ops.h"
 #include "session.h"
 
-namespace tq::build {
+namespace tq::compose {
 
 namespace {
 
@@ -381,4 +381,4 @@ void ExtractHorizontalLine(Session& s, UiPort& ui, std::string& text)
     html::ApplyGlobals(s);
 }
 
-} // namespace tq::build
+} // namespace tq::compose

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace tq::build {
+namespace tq::compose {
 
 /// Which of the two per-entry PHP writers an Input Type takes.
 enum class PhpWriter { None, Plain, Paired };
@@ -32,4 +32,4 @@ void WriteOptionLines(Session& s, UiPort& ui);
 /// the fixed functions and the end of the script.
 void WriteScriptTail(Session& s, UiPort& ui);
 
-} // namespace tq::build
+} // namespace tq::compose

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace tq::build {
+namespace tq::compose {
 
 /// The HTML file's path of a real build: the web folder, a separator unless
 /// the folder already ends in "/" or "\", and the output name.
@@ -60,4 +60,4 @@ void CreateFormOnly(Session& s, UiPort& ui);
 /// The command CreateFormHTMLCode: clears `setupHold` and builds the whole page.
 void CreateFormHTMLCode(Session& s, UiPort& ui);
 
-} // namespace tq::build
+} // namespace tq::compose

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/setup_checks.h"
+#include "compose/setup_checks.h"
 
-#include "build/extraction.h"
+#include "compose/extraction.h"
 #include "model/attribute_text.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <system_error>
 
-namespace tq::build {
+namespace tq::compose {
 
 namespace {
 
@@ -355,4 +355,4 @@ void CheckAttribute(Session& s, UiPort& ui, std::string_view key, std::string& v
     s.store.state.CommitFailed = true;
 }
 
-} // namespace tq::build
+} // namespace tq::compose

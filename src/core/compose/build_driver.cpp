@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/build_driver.h"
+#include "compose/build_driver.h"
 
-#include "build/php_pass.h"
-#include "build/setup_checks.h"
-#include "build/validation.h"
+#include "compose/php_pass.h"
+#include "compose/setup_checks.h"
+#include "compose/validation.h"
 #include "html/dispatch.h"
 #include "html/headings.h"
 #include "html/page_shell.h"
@@ -20,7 +20,7 @@
 #include <fstream>
 #include <system_error>
 
-namespace tq::build {
+namespace tq::compose {
 
 namespace {
 
@@ -482,4 +482,4 @@ void CreateFormHTMLCode(Session& s, UiPort& ui)
     BuildWholePage(s, ui, 1);
 }
 
-} // namespace tq::build
+} // namespace tq::compose

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/php_pass.h"
+#include "compose/php_pass.h"
 
 #include "php/entry_php.h"
 #include "php/script_skeleton.h"
@@ -8,7 +8,7 @@
 // subsystem; the driver keeps the files, these write the text on channel 1
 // (and the download checks on channel 2).
 
-namespace tq::build {
+namespace tq::compose {
 
 void WriteScriptHead(Session& s, UiPort&)
 {
@@ -39,4 +39,4 @@ void WriteScriptTail(Session& s, UiPort&)
     php::WriteScriptTail(s.build.channels[1], s.build, s.build.values.ServerFolderPath);
 }
 
-} // namespace tq::build
+} // namespace tq::compose

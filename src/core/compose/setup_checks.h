@@ -10,7 +10,7 @@ namespace tq {
 struct Session;
 }
 
-namespace tq::build {
+namespace tq::compose {
 
 /// Reads the SetupEntry's 20 keys in order from the front of `text` (a
 /// working copy; consumed) into `setupValues`, each followed by its help item.
@@ -32,4 +32,4 @@ void ExtractSetupEntry(Session& s, UiPort& ui, std::string& text);
 /// `value` to "none". With `commitMode` 11 (an Entry preview) nothing is tested.
 void CheckAttribute(Session& s, UiPort& ui, std::string_view key, std::string& value, int& err);
 
-} // namespace tq::build
+} // namespace tq::compose

@@ -13,7 +13,7 @@ namespace tq::model {
 struct EntryStore;
 }
 
-namespace tq::build {
+namespace tq::compose {
 
 /// Maps a slot of the flat list (counted from 1; an Entry is the odd slot of
 /// its Input Type) to its Page (1 to 4) and row (0 to 24). Slots 1 to 50 are
@@ -55,4 +55,4 @@ bool IsFollowupType(std::string_view inputType);
 bool IsDownloadKey(std::string_view key);
 bool IsConditionKey(std::string_view key);
 
-} // namespace tq::build
+} // namespace tq::compose

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/line_writer.h"
+#include "compose/line_writer.h"
 
 #include "port/file_system.h"
 
 #include <cerrno>
 
-namespace tq::build {
+namespace tq::compose {
 
 using platform::WriteFault;
 using platform::WriteStep;
@@ -90,4 +90,4 @@ void LineWriter::close()
     m_temp.clear();
 }
 
-} // namespace tq::build
+} // namespace tq::compose

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "build/validation.h"
+#include "compose/validation.h"
 
 #include "model/reorder.h"
 #include "model/text_ops.h"
@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <fstream>
 
-namespace tq::build {
+namespace tq::compose {
 
 namespace {
 
@@ -178,4 +178,4 @@ bool IsConditionKey(std::string_view key)
     return model::EqualsNoCase(key.substr(0, 5), "CONDI");
 }
 
-} // namespace tq::build
+} // namespace tq::compose
