@@ -55,7 +55,9 @@ $tqRgb = array_map('hexdec', str_split(substr($tqBackground, 1), 2));
 $tqInk = (0.299 * $tqRgb[0] + 0.587 * $tqRgb[1] + 0.114 * $tqRgb[2]) > 140 ? '#111111' : '#F2F2F2';
 
 // ---------------------------------------------------------------------------
-// The images: the picture files of this folder, by name.
+// The images: the picture files of this folder, by name. A name that is not
+// UTF-8 cannot travel in a link or in the slide show's script, and a file the
+// server cannot read cannot be shown: both are left out.
 
 const TQ_TYPES = ['jpg' => 'image/jpeg', 'jpeg' => 'image/jpeg', 'png' => 'image/png', 'gif' => 'image/gif',
     'webp' => 'image/webp'];
@@ -72,7 +74,7 @@ function tq_images(string $folder): array
             continue;
         }
         $ext = strtolower(pathinfo($name, PATHINFO_EXTENSION));
-        if (array_key_exists($ext, TQ_TYPES) && tq_inside($folder, $name) !== null) {
+        if (array_key_exists($ext, TQ_TYPES) && preg_match('//u', $name) === 1 && tq_inside($folder, $name) !== null) {
             $names[] = $name;
         }
     }
@@ -80,8 +82,8 @@ function tq_images(string $folder): array
     return $names;
 }
 
-// The real path of a file of this folder, or null for anything else: names
-// with a path in them, links that lead out of the folder, folders.
+// The real path of a readable file of this folder, or null for anything else:
+// names with a path in them, links that lead out of the folder, folders.
 function tq_inside(string $folder, string $name): ?string
 {
     if ($name !== basename($name) || strpbrk($name, "/\\\0") !== false) {
@@ -89,7 +91,7 @@ function tq_inside(string $folder, string $name): ?string
     }
     $root = realpath($folder);
     $path = realpath($folder . DIRECTORY_SEPARATOR . $name);
-    if ($root === false || $path === false || !is_file($path)) {
+    if ($root === false || $path === false || !is_file($path) || !is_readable($path)) {
         return null;
     }
     if (strncmp($path, $root . DIRECTORY_SEPARATOR, strlen($root) + 1) !== 0) {
@@ -125,32 +127,111 @@ if ($tqImg !== null || isset($_GET['img'])) {
 }
 
 // ---------------------------------------------------------------------------
-// All images as one zip file, when allowed.
+// All images as one zip file, when allowed. The archive is written straight to
+// the visitor as it is read, nothing is stored on the server's disk, so a
+// download that is broken off leaves nothing behind. The images are stored as
+// they are (they are compressed already). One archive at a time per folder:
+// the lock on this script is held while it streams and is let go however the
+// request ends.
+
+function tq_dos_time(int $stamp): array
+{
+    $t = getdate($stamp);
+    $year = max(1980, min(2107, $t['year']));
+    return [($t['hours'] << 11) | ($t['minutes'] << 5) | intdiv($t['seconds'], 2),
+        (($year - 1980) << 9) | ($t['mon'] << 5) | $t['mday']];
+}
+
+// The archive's members: name, path, size, CRC and time of each image that can
+// be read now; null when the archive would outgrow the plain zip format.
+function tq_zip_members(string $folder, array $names): ?array
+{
+    $members = [];
+    $total = 22;
+    foreach ($names as $name) {
+        $path = tq_inside($folder, $name);
+        $size = $path === null ? false : @filesize($path);
+        $crc = $size === false ? false : @hash_file('crc32b', $path);
+        if ($crc === false) {
+            continue;
+        }
+        $members[] = ['name' => $name, 'path' => $path, 'size' => $size, 'crc' => hexdec($crc),
+            'time' => tq_dos_time((int) @filemtime($path))];
+        $total += 30 + 46 + 2 * strlen($name) + $size;
+    }
+    return ($total > 0xFFFFFFFF || count($members) > 0xFFFF) ? null : $members;
+}
+
+function tq_zip_send(array $members): void
+{
+    $offset = 0;
+    $directory = '';
+    foreach ($members as $m) {
+        // flag 0x0800: the names are UTF-8
+        $common = pack('vvvvvVVVv', 20, 0x0800, 0, $m['time'][0], $m['time'][1], $m['crc'], $m['size'], $m['size'],
+            strlen($m['name']));
+        $directory .= pack('Vv', 0x02014b50, 20) . $common . pack('vvvvVV', 0, 0, 0, 0, 0, $offset) . $m['name'];
+        $header = pack('V', 0x04034b50) . $common . pack('v', 0) . $m['name'];
+        echo $header;
+        $left = $m['size'];
+        $in = @fopen($m['path'], 'rb');
+        while ($in !== false && $left > 0 && !feof($in)) {
+            $piece = fread($in, min($left, 1 << 16));
+            if ($piece === false || $piece === '') {
+                break;
+            }
+            echo $piece;
+            $left -= strlen($piece);
+            flush();
+            if (connection_aborted()) {
+                exit;
+            }
+        }
+        if ($in !== false) {
+            fclose($in);
+        }
+        // a file that shrank since it was measured: the length promised is kept
+        if ($left > 0) {
+            echo str_repeat("\0", $left);
+        }
+        $offset += strlen($header) + $m['size'];
+    }
+    echo $directory . pack('VvvvvVVv', 0x06054b50, 0, 0, count($members), count($members), strlen($directory),
+        $offset, 0);
+    flush();
+}
 
 if (isset($_GET['zip'])) {
-    if (!$tqZip || !class_exists('ZipArchive') || count($tqImages) === 0) {
+    if (!$tqZip || count($tqImages) === 0) {
         tq_refuse();
         exit;
     }
-    $tmp = tempnam(sys_get_temp_dir(), 'tqshow');
-    $zip = new ZipArchive();
-    if ($tmp === false || $zip->open($tmp, ZipArchive::CREATE | ZipArchive::OVERWRITE) !== true) {
-        http_response_code(500);
+    $tqLock = @fopen(__FILE__, 'rb');
+    if ($tqLock === false || !flock($tqLock, LOCK_EX | LOCK_NB)) {
+        http_response_code(503);
+        header('Retry-After: 30');
+        header('Content-Type: text/plain; charset=utf-8');
+        echo "Another download of all images is under way. Please try again in a minute.\n";
         exit;
     }
-    foreach ($tqImages as $name) {
-        $path = tq_inside($tqFolder, $name);
-        if ($path !== null) {
-            $zip->addFile($path, $name);
-        }
+    $members = tq_zip_members($tqFolder, $tqImages);
+    if ($members === null || count($members) === 0) {
+        tq_refuse();
+        exit;
     }
-    $zip->close();
+    while (ob_get_level() > 0) {
+        ob_end_clean();
+    }
+    $size = 22;
+    foreach ($members as $m) {
+        $size += 30 + 46 + 2 * strlen($m['name']) + $m['size'];
+    }
     $zipName = preg_replace('/[^A-Za-z0-9._-]/', '_', basename($tqFolder)) . '.zip';
     header('Content-Type: application/zip');
     header('Content-Disposition: attachment; filename="' . $zipName . '"');
-    header('Content-Length: ' . filesize($tmp));
-    readfile($tmp);
-    unlink($tmp);
+    header('Content-Length: ' . $size);
+    header('X-Content-Type-Options: nosniff');
+    tq_zip_send($members);
     exit;
 }
 
@@ -165,12 +246,14 @@ if (isset($_GET['view']) && ($tqView === null || !in_array($tqView, $tqImages, t
 $tqPages = max(1, (int) ceil(count($tqImages) / $tqPerPage));
 $tqPage = tq_number(tq_param('page') ?? '1', 1, $tqPages, 1);
 
+// The return link: its address and text are kept as data at the end of this
+// file, never run as code, and printed as plain text.
 function tq_home_link(): void
 {
-    echo "<p class=\"home\">
-             <i><a target=\"_blank\"href=\"https://www.tarnquill.example\">
-<b>RETURN TO HOME PAGE</b>
-</a></i></p>\n";
+    $data = (string) @file_get_contents(__FILE__, false, null, __COMPILER_HALT_OFFSET__);
+    $href = preg_match('/href=\\\\"(.*)\\\\">\r?$/m', $data, $m) === 1 ? $m[1] : '';
+    $text = preg_match('/^<b>(.*)<\/b>\r?$/m', $data, $m) === 1 ? $m[1] : '';
+    echo '<p class="home"><i><a target="_blank" href="' . tq_h($href) . '"><b>' . tq_h($text) . "</b></a></i></p>\n";
 }
 
 function tq_link(array $query): string
@@ -226,7 +309,7 @@ nav a, nav span { margin: 0 0.4em; }
 <?php if ($tqPage < $tqPages) { ?><a id="next-page" href="<?= tq_link(['page' => $tqPage + 1]) ?>">next &raquo;</a><?php } ?>
 </nav>
 <?php } ?>
-<?php if ($tqZip && class_exists('ZipArchive')) { ?>
+<?php if ($tqZip) { ?>
 <p class="zip"><a id="zip" href="?zip=1">Download all <?= count($tqImages) ?> images as one zip file</a></p>
 <?php } ?>
 <?php } ?>
@@ -382,3 +465,7 @@ nav a, nav span { margin: 0 0.4em; }
 </body>
 <?php } ?>
 </html>
+<?php __halt_compiler();
+The return link, as the program that installs this page writes it:
+             <i><a target=\"_blank\"href=\"https://www.tarnquill.example\">
+<b>RETURN TO HOME PAGE</b>

@@ -135,6 +135,9 @@ TEST(ShowLines, TemplateLineRules)
         {&S::FadeDelay, "100", "$fadeTime  =70;", V{"$fadeTime  =100;"}},
         {&S::FadeMode, "square", "$fadeMode  =rand(0,4);", V{"$fadeMode=3;"}},
         {&S::FadeMode, "CLASSIC - DEFAULT", "$fadeMode  =rand(0,4);", V{}}, // no exact row: dropped
+        {&S::BrowserTitle, "Club's photos", "$browsertitle=\"Image browser\";", V{"$browsertitle=\"Club's photos\";"}},
+        {&S::BrowserTitle, R"(X" . f("\$y") . ")", "Image browser",
+         V{R"($browsertitle="X\" . f(\"\\\$y\") . \"";)"}},
         {&S::HomeLinkText, "BACK", "   <b>RETURN TO HOME PAGE</b></a>", V{"<b>BACK</b>"}},
         {&S::HomeFile, "home/", "  <a href=\"https://www.tarnquill.example\">",
          V{"             <i><a target=\\\"_blank\\\"href=\\\"home\\\">"}},

@@ -45,6 +45,18 @@ void ReportFileError(int err, const std::string& name, UiPort& ui)
 
 } // namespace
 
+std::string PhpStringText(std::string_view text)
+{
+    std::string out;
+    out.reserve(text.size());
+    for (char c : text) {
+        if (c == '\\' || c == '"' || c == '$')
+            out += '\\';
+        out += c;
+    }
+    return out;
+}
+
 void ValidateShow(const ShowSettings& s, bool& failed, UiPort& ui)
 {
     failed = true;
@@ -114,7 +126,7 @@ std::vector<std::string> RewriteTemplateLine(std::string_view line, const ShowSe
         // the two leading blanks stay, unlike the other lines written here
         return {model::EqualsNoCase(s.AllowZip, "YES") ? "  $allowZip=true;" : "  $allowZip=false;"};
     if (has("Image browser"))
-        return {"$browsertitle=\"" + s.BrowserTitle + "\";"};
+        return {"$browsertitle=\"" + PhpStringText(s.BrowserTitle) + "\";"};
     if (has("$fadeMode  =rand(0,4)")) {
         if (s.FadeMode == "classic - default")
             return {"$fadeMode=0;"};

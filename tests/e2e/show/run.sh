@@ -5,16 +5,12 @@
 set -eu
 here="$(cd "$(dirname "$0")" && pwd)"
 build="$(cd "${1:-build}" && pwd)"
-for tool in php node /usr/bin/chromium "$build/bin/tarnquill-cli"; do
+for tool in php node python3 /usr/bin/chromium "$build/bin/tarnquill-cli"; do
     if ! command -v "$tool" >/dev/null 2>&1; then
         echo "show e2e: $tool is missing (scripts/install-deps.sh --test installs the tools)" >&2
         exit 1
     fi
 done
-if ! php -r 'exit(class_exists("ZipArchive") ? 0 : 1);'; then
-    echo "show e2e: PHP has no ZipArchive (php-zip)" >&2
-    exit 1
-fi
 if [ ! -d "$here/../node_modules/playwright-core" ]; then
     (cd "$here/.." && PLAYWRIGHT_SKIP_BROWSER_DOWNLOAD=1 npm ci --no-audit --no-fund --silent)
 fi
