@@ -3,6 +3,7 @@
 
 #include "busy_cursor.h"
 #include "edit_window.h"
+#include "model/input_types.h"
 #include "model/internal_error.h"
 #include "model/text_ops.h"
 #include "session.h"
@@ -357,7 +358,7 @@ void EditPage::openEditWindow(int row)
 {
     const auto& f = m_state.fields[static_cast<size_t>(row)];
     m_window->open(row, ToQ(f.Key).trimmed().toUpper(), ToQ(shell::ValueToWindow(f.Key, f.Value)),
-                   m_session.store.state.ProjectMode == "SURVEY");
+                   model::ModeOf(m_session.store.state.ProjectMode) == model::Mode::Survey);
     m_scroll->hide();
     if (m_web)
         m_web->hide();

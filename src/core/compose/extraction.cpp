@@ -5,6 +5,7 @@
 #include "compose/validation.h"
 #include "html/globals.h"
 #include "model/attribute_text.h"
+#include "model/input_types.h"
 #include "model/text_ops.h"
 #include "session.h"
 
@@ -215,29 +216,33 @@ bool ReadConditionRow(Reader& r, bool comment, bool split, std::string_view list
            r.choices() && r.ki("[REQUIRED", v.REQ);
 }
 
-/// The rows of the table in their order; false when no row fits.
-bool ReadRow(Reader& r, const std::string& t, std::string_view inputType)
+/// Reads the keys of `recipe` in their order; false for a type without one.
+bool ReadRow(Reader& r, model::Recipe recipe, std::string_view inputType)
 {
+    using model::Recipe;
     WorkingValues& v = r.v;
-    auto starts = [&t](std::string_view p) { return t.compare(0, p.size(), p) == 0; };
-
-    if (t == "VIDEO") {
+    switch (recipe) {
+    case Recipe::Video:
         r.ki("[SERVER VIDEO PATH", v.ServerPath) && r.checkSemicolon(v.ServerPath) && r.kc("[ALIGN", v.VideoAlign) &&
             r.ki("[VIDEO WIDTH", v.VideoWidth) && r.ki("[VIDEO HEIGHT", v.VideoHeight) &&
             r.kc("[AUTOSTART", v.Autostart) && r.kc("[LOOP", v.Loop);
-    } else if (t == "PICTURE") {
+        break;
+    case Recipe::Picture:
         if (r.ki("[SERVER PICTURE PATH", v.ServerPath) && r.checkBackslash(v.ServerPath) && r.kc("[ALIGN", v.ALIGN) &&
             r.ki("[PICTURE WIDTH", v.PictureWidth))
             r.ki("[PICTURE HEIGHT", v.PictureHeight);
         v.PictureAlign = v.ALIGN;
-    } else if (t == "BLANK LINE") {
+        break;
+    case Recipe::BlankLine:
         r.key("[NEW LINE", v.NewLine);
-    } else if (starts("SURVEY")) {
+        break;
+    case Recipe::SurveyIntro:
         if (r.ki("[TITLE", v.Title)) {
             v.IntroLines = model::SplitLines(v.Title);
             r.ki("[TITLE SIZE", v.TitleSize) && r.kc("[ALIGN", v.ALIGN) && r.styles() && r.choices();
         }
-    } else if (starts("TABLE")) {
+        break;
+    case Recipe::Table:
         r.ki("[COLCHOICE", v.ColChoice) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
             r.list("ROW CHOICES", v.RowChoices) && r.info() && r.kc("[ALIGN", v.ALIGN) &&
             r.color("[CHOICES BACK COLOR", v.ChoicesBackColor, v.ChoicesBackColorHex) && r.choices() &&
@@ -245,71 +250,93 @@ bool ReadRow(Reader& r, const std::string& t, std::string_view inputType)
             r.color("[ANSWER BACK COLOR", v.AnswerBackColor, v.AnswerBackColorHex) && r.choices() &&
             r.ki("[ITALICS", v.TableItalics) && r.ki("[BOLD", v.TableBold) && r.ki("[REQUIRED TABLE", v.RequiredTable);
         v.REQ = v.RequiredTable;
-    } else if (t == "TITLE SHADE") {
+        break;
+    case Recipe::TitleShade:
         r.ki("[TITLE", v.Title) && r.ki("[TITLE SIZE", v.TitleSize) && r.ki("[TITLE SHADE WIDTH", v.TitleShadeWidth) &&
             r.ki("[HEIGHT", v.Height) && r.kc("[ALIGN", v.ALIGN) && r.styles() && r.info();
-    } else if (starts("TITLE")) {
+        break;
+    case Recipe::Title:
         r.ki("[TITLE", v.Title) && r.ki("[TITLE SIZE", v.TitleSize) && r.kc("[ALIGN", v.ALIGN) && r.styles() &&
             r.choices();
-    } else if (t == "NAME" || t == "SUBJECT") {
+        break;
+    case Recipe::NameSubject:
         ReadTextRow(r, "[DEFAULT NAME", false);
-    } else if (t == "PHONE NUMBER" || t == "CELL PHONE NUMBER") {
+        break;
+    case Recipe::Phone:
         ReadTextRow(r, "[PHONE # DEFAULT VALUE", false);
-    } else if (t == "EMAIL") {
+        break;
+    case Recipe::Email:
         ReadTextRow(r, "[DEFAULT EMAIL ADDRESS", true);
-    } else if (starts("CHECKBOX")) {
+        break;
+    case Recipe::Checkbox:
         r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
             r.defaultValue("[DEFAULT CHECK BOX", true, true) && r.info() && r.list("CHECK BOX", v.CheckBoxes) &&
             r.choices() && r.kc("[ALIGN", v.ALIGN) && r.shade() && r.styles() && r.choices() &&
             r.ki("[REQUIRED", v.REQ);
-    } else if (starts("COMMENTS")) {
+        break;
+    case Recipe::Comments:
         r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
             r.defaultValue("[DEFAULT COMMENTS", true, false) && r.optional("[DEFAULT VALUE") && r.info() &&
             r.kc("[ALIGN", v.ALIGN) && r.optional("[DEFAULT VALUE") && r.ki("[COMMENTS WIDTH", v.Width) &&
             r.ki("[COMMENTS HEIGHT", v.Height) && r.shade() && r.styles() && r.choices() && r.ki("[REQUIRED", v.REQ);
-    } else if (t == "CONDITION WITH COMMENT") {
+        break;
+    case Recipe::ConditionComment:
         ReadConditionRow(r, true, true, "CONDITION CHOICES");
-    } else if (t == "CONDITION WITH DROPDOWN") {
+        break;
+    case Recipe::ConditionDropdown:
         ReadConditionRow(r, false, false, "CHOICES");
-    } else if (t == "CONDITION WITH MULTIPLE CHOICES") {
+        break;
+    case Recipe::ConditionChoices:
         ReadConditionRow(r, false, true, "CONDITION CHOICES");
-    } else if (t == "FOLLOWUP WITH COMMENT") {
+        break;
+    case Recipe::FollowupComment:
         r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
             r.kc("[ALIGN", v.ALIGN) && r.ki("[FOLLOWUP WIDTH", v.Width) && r.ki("[FOLLOWUP HEIGHT", v.Height) &&
             r.shade() && r.styles() && r.info();
-    } else if (t == "FOLLOWUP WITH DROPDOWN" || t == "FOLLOWUP WITH MULTIPLE CHOICES") {
+        break;
+    case Recipe::FollowupChoices:
         r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
             r.list("DEFAULT FOLLOWUP", v.Choices) && r.choices() && r.kc("[ALIGN", v.ALIGN) && r.shade() &&
             r.styles() && r.choices();
-    } else if (t == "DOWNLOAD FILES") {
+        break;
+    case Recipe::DownloadFiles:
         r.downloadKeys(v.VisibleDownload) && r.styles() && r.choices();
-    } else if (t == "DOWNLOAD FILES WITH PASSWORD") {
+        break;
+    case Recipe::DownloadFilesPassword:
         r.downloadKeys(v.VisibleDownloadPassword) && r.shade() && r.styles() && r.info();
-    } else if (t == "FOLLOWUP FILES WITH PASSWORD") {
+        break;
+    case Recipe::FollowupFilesPassword:
         r.ki("[TITLE", v.Title) && r.ki("[BLANK ERROR", v.MSG2) && r.ki("[ERROR MESSAGE", v.MSG) &&
             r.ki("[TITLE SIZE", v.TitleSize) && r.defaultValue("[DEFAULT DOWNLOAD VALUE", true, false) &&
             r.optional("[DEFAULT VALUE") && r.kc("[ALIGN", v.ALIGN) && r.ki("[PASSWORD", v.PASSWORD) &&
             r.ki("[WIDTH", v.Width) && r.shade() && r.styles() && r.choices();
-    } else if (starts("DROPDOWN")) {
+        break;
+    case Recipe::Dropdown:
         r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
             r.list("[", v.Choices) && r.choices() && r.kc("[ALIGN", v.ALIGN) && r.shade() && r.styles() &&
             r.choices() && r.ki("[REQUIRED", v.REQ);
-    } else if (starts("QUESTION")) {
+        break;
+    case Recipe::Question:
         r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
             (!model::StartsWithNoCase(model::LTrim(r.text), "[DEFAULT QUESTION") ||
              r.defaultValue("[DEFAULT QUESTION", true, true)) &&
             r.info() && r.list("[", v.Choices) && r.info() && r.optional("[DEFAULT VALUE") && r.kc("[ALIGN", v.ALIGN) &&
             r.shade() && r.styles() && r.choices() && r.ki("[REQUIRED", v.REQ);
-    } else if (t == "USER NAME") {
+        break;
+    case Recipe::UserName:
         ReadLoginRow(r, "[DEFAULT USER NAME", true, "[USERNAME", v.USERNAME, true);
-    } else if (t == "PASSWORD") {
+        break;
+    case Recipe::Password:
         ReadLoginRow(r, "[PASSWORD DEFAULT VALUE", false, "[PASSWORD", v.PASSWORD, true);
-    } else if (t == "SECURITY CODE") {
+        break;
+    case Recipe::SecurityCode:
         ReadLoginRow(r, "[DEFAULT SECURITY VALUE", false, "[PASSWORD", v.PASSWORD, false);
-    } else if (t == "CANCEL BUTTON") {
+        break;
+    case Recipe::CancelButton:
         r.ki("[BUTTON NAME", v.ButtonName) && r.color("[DEFAULT COLOR", v.DefaultColor, v.DefaultColorHex) &&
             r.choices() && r.kc("[ALIGN", v.ALIGN) && r.ki("[LINK TO", v.LinkTo) && r.checkLinkTo(inputType);
-    } else {
+        break;
+    default:
         return false;
     }
     return true;
@@ -345,17 +372,17 @@ bool TakeEndMark(Session& s, UiPort& ui, std::string& text, std::string_view exp
 void ExtractEntry(Session& s, UiPort& ui, std::string_view inputType, std::string& text)
 {
     FixLineBreaks(text);
-    const std::string t = model::ToUpper(inputType);
-    if (t == "SETUP") {
+    const model::Recipe recipe = model::RecipeFor(inputType);
+    if (recipe == model::Recipe::Setup) {
         ExtractSetupEntry(s, ui, text);
         return;
     }
-    if (t == "HORIZONTAL LINE") {
+    if (recipe == model::Recipe::HorizontalLine) {
         ExtractHorizontalLine(s, ui, text);
         return;
     }
     Reader r{s, ui, text, s.build.values};
-    if (!ReadRow(r, t, inputType)) {
+    if (!ReadRow(r, recipe, inputType)) {
         s.build.buildError = 5;
         return;
     }

@@ -20,11 +20,9 @@ void WriteValidationBanner(Session& s, UiPort&)
     php::WriteValidationBanner(s.build.channels[1], s.build.setupValues);
 }
 
-// The writer is chosen by Input Type: the download writer for the three
-// download types, the general writer for the rest.
-void WriteEntryPhp(Session& s, UiPort& ui, PhpWriter, std::string_view fieldName, std::string_view inputType)
+void WriteEntryPhp(Session& s, UiPort& ui, const model::InputType& type, std::string_view fieldName)
 {
-    php::WriteEntryPhp(ui, s.build, inputType, fieldName);
+    php::WriteEntryPhp(ui, s.build, type, fieldName);
 }
 
 void WriteOptionLines(Session& s, UiPort&)

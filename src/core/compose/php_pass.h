@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/input_types.h"
 #include "session.h"
 
 #include <string_view>
 
 namespace tq::compose {
-
-/// Which of the two per-entry PHP writers an Input Type takes.
-enum class PhpWriter { None, Plain, Paired };
 
 // The places where the PHP pass of the driver hands over to the script
 // writers. The driver opens and closes the files; these write the text.
@@ -20,9 +18,9 @@ void WriteScriptHead(Session& s, UiPort& ui);
 /// "\downtemp.txt" was opened on channel 2.
 void WriteValidationBanner(Session& s, UiPort& ui);
 
-/// The PHP of one Entry (pass 2 of the dispatcher), after its extraction.
-/// `inputType` is upper-cased. May set `buildError`.
-void WriteEntryPhp(Session& s, UiPort& ui, PhpWriter writer, std::string_view fieldName, std::string_view inputType);
+/// The PHP of one Entry (pass 2 of the dispatcher), after its extraction, by
+/// the PHP writer of its row. May set `buildError`.
+void WriteEntryPhp(Session& s, UiPort& ui, const model::InputType& type, std::string_view fieldName);
 
 /// The "$option" lines, written when `optionPending` is set, before the copy
 /// of "\downtemp.txt".

@@ -2,6 +2,7 @@
 #include "html/headings.h"
 
 #include "html/html_text.h"
+#include "model/input_types.h"
 #include "model/text_ops.h"
 #include "session.h"
 
@@ -181,7 +182,7 @@ std::string PreviewFieldName(std::string_view inputType)
 
 bool IsSurvey(const Session& s)
 {
-    return model::EqualsNoCase(s.store.state.ProjectMode, "SURVEY");
+    return model::ModeOf(s.store.state.ProjectMode) == model::Mode::Survey;
 }
 
 void AppendMessageLine(compose::BuildState& b, std::string text)

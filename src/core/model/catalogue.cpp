@@ -2,6 +2,7 @@
 #include "model/catalogue.h"
 
 #include "model/attribute_text.h"
+#include "model/input_types.h"
 #include "model/templates.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
@@ -15,24 +16,6 @@ constexpr std::array<std::string_view, kFollowupCount> kFollowupNames = {
     "Followup With Multiple Choices",
     "Followup With Dropdown",
 };
-
-struct PairName
-{
-    std::string_view partner; // upper case
-    std::string_view followup;
-};
-
-constexpr PairName kPairs[] = {
-    {"CONDITION WITH COMMENT", "Followup With Comment"},
-    {"CONDITION WITH DROPDOWN", "Followup With Dropdown"},
-    {"CONDITION WITH MULTIPLE CHOICES", "Followup With Multiple Choices"},
-    {"DOWNLOAD FILES WITH PASSWORD", "Followup Files With Password"},
-};
-
-bool IsSurvey(std::string_view mode)
-{
-    return ToUpper(mode) == "SURVEY";
-}
 
 std::string YesNo(int flag)
 {
@@ -81,20 +64,16 @@ const std::array<std::string_view, kFollowupCount>& FollowupNames()
 
 std::string_view FollowupFor(std::string_view partner)
 {
-    const std::string upper = ToUpper(partner);
-    for (const PairName& p : kPairs)
-        if (upper == p.partner)
-            return p.followup;
-    return {};
+    const InputType* row = FindInputType(partner);
+    if (!row || row->pairing != Pairing::Lead)
+        return {};
+    return InputTypeRow(row->partner).displayName;
 }
 
 bool IsFollowupName(std::string_view name)
 {
-    const std::string upper = ToUpper(name);
-    for (std::string_view f : kFollowupNames)
-        if (upper == ToUpper(f))
-            return true;
-    return false;
+    const InputType* row = FindInputType(name);
+    return row && row->pairing == Pairing::Followup;
 }
 
 int PairRows(std::string_view name)
@@ -134,7 +113,7 @@ void BuildTemplates(Catalogue& catalogue, TemplateSettings& settings, StateRecor
         settings.Email3 = "NONE";
     RestoreEmptyPaths(settings);
 
-    const bool survey = IsSurvey(state.ProjectMode);
+    const bool survey = ModeOf(state.ProjectMode) == Mode::Survey;
     if (survey)
         frameOff = 1; // the survey is never framed
     settings.TextColor = (survey || frameOff == 1) ? "0" : "16777215";
@@ -173,7 +152,7 @@ void BuildTemplates(Catalogue& catalogue, TemplateSettings& settings, StateRecor
 
 void BuildCatalogue(Catalogue& catalogue, TemplateSettings& settings, StateRecord& state)
 {
-    const int flag = IsSurvey(state.ProjectMode) ? 0 : settings.FrameOff;
+    const int flag = ModeOf(state.ProjectMode) == Mode::Survey ? 0 : settings.FrameOff;
     BuildTemplates(catalogue, settings, state, flag);
 }
 
@@ -223,7 +202,7 @@ const std::string& FollowupTemplate(const Catalogue& catalogue, std::string_view
     const std::string upper = ToUpper(followup);
     for (size_t i = 0; i < kFollowupNames.size(); ++i)
         if (upper == ToUpper(kFollowupNames[i]))
-            return IsSurvey(mode) ? catalogue.SurveyFollowupTemplates[i] : catalogue.FormFollowupTemplates[i];
+            return ModeOf(mode) == Mode::Survey ? catalogue.SurveyFollowupTemplates[i] : catalogue.FormFollowupTemplates[i];
     return kNone;
 }
 

@@ -3,22 +3,9 @@
 
 #include "model/text_ops.h"
 
-#include <algorithm>
-#include <array>
-
 namespace tq::php {
 
 namespace {
-
-bool OneOf(const std::string& t, std::initializer_list<std::string_view> names)
-{
-    return std::find(names.begin(), names.end(), t) != names.end();
-}
-
-bool StartsWith(std::string_view s, std::string_view head)
-{
-    return s.substr(0, head.size()) == head;
-}
 
 std::string Q(std::string_view s)
 {
@@ -46,70 +33,27 @@ void ShowPairingError(UiPort& ui, const std::string& type, std::string_view must
                "ERROR", Icon::Critical);
 }
 
-} // namespace
-
-bool IsDownloadType(std::string_view inputType)
-{
-    return OneOf(model::ToUpper(inputType),
-                 {"DOWNLOAD FILES", "DOWNLOAD FILES WITH PASSWORD", "FOLLOWUP FILES WITH PASSWORD"});
-}
-
-bool HasEntryPhp(std::string_view inputType)
-{
-    return OneOf(model::ToUpper(inputType), {"NAME",
-                                             "SUBJECT",
-                                             "EMAIL",
-                                             "PHONE NUMBER",
-                                             "CELL PHONE NUMBER",
-                                             "CANCEL BUTTON",
-                                             "TITLE 1 SINGLE LINE",
-                                             "TITLE 2 DOUBLE LINE",
-                                             "TITLE HEADER",
-                                             "SURVEY INTRO",
-                                             "USER NAME",
-                                             "PASSWORD",
-                                             "SECURITY CODE",
-                                             "QUESTION MULTIPLE CHOICES COMMENTS",
-                                             "QUESTION MULTIPLE CHOICES",
-                                             "QUESTION YESNO REQUIRED",
-                                             "QUESTION YESNO NOT REQUIRED",
-                                             "QUESTION YESNO VERTICAL REQUIRED",
-                                             "CONDITION WITH COMMENT",
-                                             "DOWNLOAD FILES",
-                                             "DOWNLOAD FILES WITH PASSWORD",
-                                             "CONDITION WITH DROPDOWN",
-                                             "CONDITION WITH MULTIPLE CHOICES",
-                                             "TABLE TEXT REQUIRED",
-                                             "TABLE CHOICES REQUIRED",
-                                             "FOLLOWUP FILES WITH PASSWORD",
-                                             "FOLLOWUP WITH MULTIPLE CHOICES",
-                                             "DROPDOWN REQUIRED",
-                                             "DROPDOWN NOT REQUIRED",
-                                             "FOLLOWUP WITH DROPDOWN",
-                                             "CHECKBOX HORIZONTAL",
-                                             "CHECKBOX VERTICAL",
-                                             "COMMENTS REQUIRED",
-                                             "COMMENTS NOT REQUIRED",
-                                             "COMMENTS WITH TEXT",
-                                             "FOLLOWUP WITH COMMENT"});
-}
-
-void NumberMessages(compose::BuildState& state, std::string_view inputType, std::string& msg, std::string& msg2)
+// Numbers the two messages of an Entry when `[NUMBER EACH QUESTION=` is YES:
+// a lead of a pair advances `phpQuestionNumber` and gets " 3a. ", a Followup
+// keeps the number and gets " 3b. ", every other type advances it and gets
+// "3. "; " for question 3a" goes behind.
+void NumberMessages(compose::BuildState& state, model::Numbering numbering, std::string& msg, std::string& msg2)
 {
     if (!model::EqualsNoCase(state.setupValues.NumberEachQuestion, "YES"))
         return;
-    const std::string t = model::ToUpper(inputType);
     std::string label;
-    if (OneOf(t, {"DOWNLOAD FILES WITH PASSWORD", "CONDITION WITH COMMENT", "CONDITION WITH DROPDOWN",
-                  "CONDITION WITH MULTIPLE CHOICES"})) {
+    switch (numbering) {
+    case model::Numbering::PairFirst:
         ++state.phpQuestionNumber;
         label = " " + std::to_string(state.phpQuestionNumber) + "a. "; // the leading blank is shown
-    } else if (OneOf(t, {"FOLLOWUP WITH COMMENT", "FOLLOWUP WITH MULTIPLE CHOICES", "FOLLOWUP WITH DROPDOWN",
-                         "FOLLOWUP FILES WITH PASSWORD"})) {
+        break;
+    case model::Numbering::PairSecond:
         label = " " + std::to_string(state.phpQuestionNumber) + "b. ";
-    } else {
+        break;
+    case model::Numbering::Own:
         ++state.phpQuestionNumber;
         label = std::to_string(state.phpQuestionNumber) + ". ";
+        break;
     }
     const size_t dot = label.find('.');
     const std::string suffix =
@@ -119,32 +63,32 @@ void NumberMessages(compose::BuildState& state, std::string_view inputType, std:
     msg2 = label + msg2 + suffix;
 }
 
-void WriteGeneralPhp(compose::BuildState& state, std::string_view inputType, std::string_view keyView)
+// The general writer: the checks of one field on channel 1, from the Entry's
+// values (MSG, MSG2, REQ, USERNAME, PASSWORD), and the new `lastConditionField`.
+void WriteGeneralPhp(compose::BuildState& state, const model::InputType& type, std::string_view keyView)
 {
-    const std::string t = model::ToUpper(inputType);
-    // (A test of the first four characters against "HORIZONTAL LINE" never
-    // held; that type does not reach this writer.)
-    if (keyView.empty() || t == "VIDEO" || StartsWith(t, "TITLE") || StartsWith(t, "SURVEY"))
+    using model::PhpWriter;
+    if (keyView.empty())
         return;
 
     const std::string key(keyView);
     const compose::WorkingValues& v = state.values;
     std::string msg = v.MSG;
     std::string msg2 = v.MSG2;
-    NumberMessages(state, t, msg, msg2);
+    NumberMessages(state, type.numbering, msg, msg2);
     const bool required = model::EqualsNoCase(v.REQ, "YES");
     compose::LineWriter& out = state.channels[1];
 
-    if (OneOf(t, {"NAME", "SUBJECT", "PHONE NUMBER", "CELL PHONE NUMBER", "COMMENTS REQUIRED", "COMMENTS NOT REQUIRED",
-                  "COMMENTS WITH TEXT", "QUESTION MULTIPLE CHOICES COMMENTS", "QUESTION MULTIPLE CHOICES",
-                  "CONDITION WITH DROPDOWN", "TABLE CHOICES REQUIRED", "TABLE TEXT REQUIRED"})) {
+    switch (type.php) {
+    case PhpWriter::CheckEntry:
         if (required) {
             out.line(CheckEntry(key, msg));
             state.lastConditionField = key;
         } else {
             out.line(TakePost(key));
         }
-    } else if (t == "EMAIL") {
+        return;
+    case PhpWriter::Email:
         if (required) {
             out.line(CheckEntry(key, msg2));
             // every required EMAIL lands in $email: a second one overwrites it
@@ -152,36 +96,43 @@ void WriteGeneralPhp(compose::BuildState& state, std::string_view inputType, std
         } else {
             out.line(TakePost(key));
         }
-    } else if (OneOf(t, {"CONDITION WITH COMMENT", "CONDITION WITH MULTIPLE CHOICES", "QUESTION YESNO REQUIRED",
-                         "QUESTION YESNO NOT REQUIRED", "QUESTION YESNO VERTICAL REQUIRED"})) {
+        return;
+    case PhpWriter::YesNo:
         if (required) {
             out.line("$" + key + " = validate_yesno($_POST[" + Q(key) + "], " + Q(msg) + ");");
             state.lastConditionField = key;
         } else {
             out.line(TakePost(key));
         }
-    } else if (OneOf(t, {"FOLLOWUP WITH COMMENT", "FOLLOWUP WITH MULTIPLE CHOICES", "FOLLOWUP WITH DROPDOWN"})) {
+        return;
+    case PhpWriter::FollowupRadio:
+    case PhpWriter::FollowupDropdown: {
         // With no field before it the first argument is empty ("$,"): the
         // script does not run. The edit and list checks guard against that.
-        const char* check = t == "FOLLOWUP WITH DROPDOWN" ? "validate_radio_notselected" : "validate_radio";
+        const char* check =
+            type.php == PhpWriter::FollowupDropdown ? "validate_radio_notselected" : "validate_radio";
         out.line(TakePost(key));
         out.line(std::string(check) + "($" + state.lastConditionField + ",$" + key + "," + Q(msg) + ");");
         out.line("");
         state.lastConditionField.clear();
-    } else if (t == "DROPDOWN REQUIRED" || t == "DROPDOWN NOT REQUIRED") {
+        return;
+    }
+    case PhpWriter::Dropdown:
         out.line(TakePost(key));
         out.line("validate_radio_dropdown_notselected($" + key + "," + Q(msg) + ");");
         out.line("");
         state.lastConditionField.clear();
-    } else if (t == "CHECKBOX HORIZONTAL" || t == "CHECKBOX VERTICAL") {
+        return;
+    case PhpWriter::Checkbox:
         if (required)
             out.line("$" + key + " = validate_check($_POST[" + Q(key) + "], " + Q(msg) + ");");
         else
             out.line(TakePost(key));
         out.line("$" + key + " = getresults_check($" + key + ");");
-    } else if (t == "USER NAME" || t == "PASSWORD" || t == "SECURITY CODE") {
+        return;
+    case PhpWriter::Login:
         if (required) {
-            const std::string& expected = t == "USER NAME" ? v.USERNAME : v.PASSWORD;
+            const std::string& expected = type.id == model::InputTypeId::UserName ? v.USERNAME : v.PASSWORD;
             out.line(CheckEntry(key, msg2));
             // the raw field, not the cleaned variable, is compared: exact and case-sensitive
             out.line("$" + key + " = validate_userpass($_POST[" + Q(key) + "]," + Q(expected) + "," + Q(msg) + ");");
@@ -190,26 +141,35 @@ void WriteGeneralPhp(compose::BuildState& state, std::string_view inputType, std
         } else {
             out.line(TakePost(key));
         }
+        return;
+    default:
+        return; // numbered only
     }
 }
 
-void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view keyView)
+// The download writer. DOWNLOAD FILES writes download_file() or its check,
+// DOWNLOAD FILES WITH PASSWORD its check; FOLLOWUP FILES WITH PASSWORD must
+// follow one of those or a Condition: then it writes its checks on channel 1
+// and its password check on channel 2 (\downtemp.txt). Out of place, it shows
+// the "ERROR" box and sets `buildError` to 1.
+void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, const model::InputType& type, std::string_view keyView)
 {
+    using model::PhpWriter;
     const compose::WorkingValues& v = state.values;
     if (keyView.empty() || v.Title.empty())
         return;
-    const std::string t = model::ToUpper(inputType);
+    const std::string t(type.name);
     const std::string key(keyView);
     std::string msg = v.MSG;
     std::string msg2 = v.MSG2;
-    NumberMessages(state, t, msg, msg2);
+    NumberMessages(state, type.numbering, msg, msg2);
     std::string req = v.REQ;
-    if (t == "FOLLOWUP FILES WITH PASSWORD")
+    if (type.php == PhpWriter::FollowupFiles)
         req = "yes";
     const bool required = model::EqualsNoCase(req, "YES");
     compose::LineWriter& out = state.channels[1];
 
-    if (t == "DOWNLOAD FILES") {
+    if (type.php == PhpWriter::DownloadFiles) {
         if (!required) {
             // every visitor who gets this far sees the download page here
             out.line("download_file();");
@@ -219,13 +179,13 @@ void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, std::string_view i
         state.lastConditionField = key;
         return;
     }
-    if (t == "DOWNLOAD FILES WITH PASSWORD") {
+    if (type.php == PhpWriter::DownloadFilesPassword) {
         if (required)
             out.line(CheckEntry(key, msg));
         state.lastConditionField = key;
         return;
     }
-    if (t != "FOLLOWUP FILES WITH PASSWORD")
+    if (type.php != PhpWriter::FollowupFiles)
         return;
 
     const std::string p = model::ToUpper(state.lastConditionField.substr(0, 5));
@@ -249,14 +209,28 @@ void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, std::string_view i
     state.lastConditionField.clear();
 }
 
+} // namespace
+
+void WriteEntryPhp(UiPort& ui, compose::BuildState& state, const model::InputType& type, std::string_view key)
+{
+    switch (type.php) {
+    case model::PhpWriter::None:
+        return;
+    case model::PhpWriter::DownloadFiles:
+    case model::PhpWriter::DownloadFilesPassword:
+    case model::PhpWriter::FollowupFiles:
+        WriteDownloadPhp(ui, state, type, key);
+        return;
+    default:
+        WriteGeneralPhp(state, type, key);
+        return;
+    }
+}
+
 void WriteEntryPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view key)
 {
-    if (!HasEntryPhp(inputType))
-        return;
-    if (IsDownloadType(inputType))
-        WriteDownloadPhp(ui, state, inputType, key);
-    else
-        WriteGeneralPhp(state, inputType, key);
+    if (const model::InputType* type = model::FindInputType(inputType))
+        WriteEntryPhp(ui, state, *type, key);
 }
 
 } // namespace tq::php
