@@ -257,3 +257,69 @@ TEST(WholeBuild, ACountPastItsTableStopsWithAnInternalError)
     EXPECT_EQ(port.messages().back().icon, Icon::Critical);
     EXPECT_FALSE(std::filesystem::exists(p.php()));
 }
+
+namespace {
+
+// The default stored text of a type, with its Required answer turned to no.
+std::string NotRequired(const std::string& mode, const std::string& file)
+{
+    std::string text = ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/templates/" + mode + "/" + file + ".txt");
+    const std::string yes = "[Required=yes]";
+    if (const size_t at = text.find(yes); at != std::string::npos)
+        text.replace(at, yes.size(), "[Required=no]");
+    return text;
+}
+
+// The script's validation lines: between the banner and the fixed tail.
+std::string ValidationLines(const std::string& script)
+{
+    const std::string banner = "/* Validation Code */\r\n/*******************/\r\n\r\n";
+    const size_t from = script.find(banner);
+    const size_t to = script.find("\r\n/***********************************/\r\n/* Get Public IP");
+    if (from == std::string::npos || to == std::string::npos || to < from)
+        return "no validation section in:\n" + script;
+    return script.substr(from + banner.size(), to - from - banner.size());
+}
+
+} // namespace
+
+// A Followup sets no condition field in the page pass: a not-required
+// Condition keeps the field the page pass left, which names the Condition
+// that was written last, never a Followup.
+TEST(WholeBuild, FollowupsOfNotRequiredConditionsNameTheLastConditionOfThePagePass)
+{
+    for (const std::string mode : {"form", "survey"}) {
+        SCOPED_TRACE(mode);
+        const bool survey = mode == "survey";
+        const std::string output = survey ? "surveytql.htm" : "formtql.htm";
+        const std::string script = survey ? "surveytql.php" : "formtql.php";
+        {
+            Project p(output);
+            p.s->store.state.ProjectMode = survey ? "SURVEY" : "FORM";
+            p.add(1, "Condition With Comment", NotRequired(mode, "condition_with_comment"));
+            p.add(2, "Followup With Multiple Choices", NotRequired(mode, "followup_with_multiple_choices"));
+            ScriptedPort port;
+            tq::compose::CreateFormHTMLCode(*p.s, port);
+            EXPECT_TRUE(port.shown.empty());
+            EXPECT_EQ(ValidationLines(ReadFileBytes(p.web.file(script))),
+                      ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/php/condition_pairs/pair_not_required.php"));
+        }
+        {
+            Project p(output);
+            p.s->store.state.ProjectMode = survey ? "SURVEY" : "FORM";
+            p.add(1, "Condition With Dropdown", NotRequired(mode, "condition_with_dropdown"));
+            p.add(2, "Followup With Dropdown", NotRequired(mode, "followup_with_dropdown"));
+            // behind Page 1's rows by number: the build's reordering keeps them last
+            auto& page2 = p.s->store.pages[1];
+            page2[0] = {"Condition With Comment", NotRequired(mode, "condition_with_comment"), "4", false,
+                        tq::model::Highlight::None};
+            page2[1] = {"Followup With Multiple Choices", NotRequired(mode, "followup_with_multiple_choices"), "5",
+                        false, tq::model::Highlight::None};
+            ScriptedPort port;
+            tq::compose::CreateFormHTMLCode(*p.s, port);
+            EXPECT_TRUE(port.shown.empty());
+            EXPECT_EQ(ValidationLines(ReadFileBytes(p.web.file(script))),
+                      ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/php/condition_pairs/later_followup_on_page_2.php"));
+        }
+    }
+}

@@ -117,8 +117,10 @@ constexpr InputType kTable[] = {
              P::FollowupRadio, I::ConditionWithComment),
     Followup(I::FollowupWithDropdown, "FOLLOWUP WITH DROPDOWN", "Followup With Dropdown", R::FollowupChoices,
              kDropdown, P::FollowupDropdown, I::ConditionWithDropdown),
+    // the choices writers of the first group, but a Followup sets no condition field
     Followup(I::FollowupWithMultipleChoices, "FOLLOWUP WITH MULTIPLE CHOICES", "Followup With Multiple Choices",
-             R::FollowupChoices, kChoices, P::FollowupRadio, I::ConditionWithMultipleChoices),
+             R::FollowupChoices, {{H::FormChoices, false}, {H::SurveyChoices, false}}, P::FollowupRadio,
+             I::ConditionWithMultipleChoices),
     Followup(I::FollowupFilesWithPassword, "FOLLOWUP FILES WITH PASSWORD", "Followup Files With Password",
              R::FollowupFilesPassword, kText, P::FollowupFiles, I::DownloadFilesWithPassword),
 };
