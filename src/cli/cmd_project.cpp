@@ -55,10 +55,9 @@ std::string ModeOfFile(const std::string& path)
 // The folder named by "\Tarnquill.stt" in the fixed folder of this machine.
 std::optional<std::string> DefaultDataFolder()
 {
-    const char* home = std::getenv("HOME");
-    if (home == nullptr || *home == '\0')
+    const std::string fixed = platform::FixedFolder();
+    if (fixed.empty())
         return std::nullopt;
-    const std::string fixed = std::string(home) + "/Documents/tarnquill/forms";
     const auto bytes = store::ReadWholeFile(platform::JoinPath(fixed, "\\Tarnquill.stt"));
     if (!bytes)
         return std::nullopt;

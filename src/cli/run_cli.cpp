@@ -11,7 +11,7 @@ static const char* const kUsage = "usage:\n"
                                   "  tarnquill-cli new form|survey FILE [--replace]\n"
                                   "  tarnquill-cli build FILE [--mode form|survey] [--whole-page] "
                                   "[--data-folder DIR] [--replace] [--web-folder DIR]\n"
-                                  "  tarnquill-cli show FILE.shw --template PATH\n"
+                                  "  tarnquill-cli show FILE.shw --template PATH [--data-folder DIR]\n"
                                   "  tarnquill-cli serve FILE [--port N]\n";
 
 int RunCli(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err)

@@ -18,7 +18,6 @@
 #include <QFile>
 #include <QMenu>
 #include <QStackedWidget>
-#include <QStandardPaths>
 #include <algorithm>
 
 namespace tq::gui {
@@ -37,10 +36,8 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
 {
     setObjectName("MainWindow");
     setWindowTitle("Tarnquill");
-    QString docs = documentsFolder;
-    if (docs.isEmpty())
-        docs = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    m_fixedFolder = QDir(docs).filePath("tarnquill/forms");
+    m_fixedFolder = documentsFolder.isEmpty() ? ToQ(platform::FixedFolder())
+                                              : QDir(documentsFolder).filePath("tarnquill/forms");
 
     m_stack = new QStackedWidget(this);
     setCentralWidget(m_stack);
@@ -83,10 +80,7 @@ bool MainWindow::start()
     s.run.Bold = "off";
 
     // No file of the program is touched before the DataFolder is known.
-    auto folder = store::LoadDataFolder(*m_port, m_fixedFolder.toStdString());
-    if (!folder)
-        return false;
-    s.DataFolder = *folder;
+    s.DataFolder = store::LoadDataFolder(*m_port, m_fixedFolder.toStdString());
 
     fillPickLists();
     store::ImportSetup(s.setup, *m_port, s.DataFolder, true);

@@ -4,6 +4,7 @@
 #include "session.h"
 #include "store/recent_history.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 using namespace tq;
@@ -67,7 +68,7 @@ TEST_F(Recent, AForeignLineCutsTheListAndTextBeforeThePathIsDropped)
     EXPECT_EQ(test::ReadFileBytes(Forms()), b + "\r\n");
 }
 
-TEST_F(Recent, AMissingFileIsReportedAndTakenOutOfTheShowListOnly)
+TEST_F(Recent, AMissingFileIsReportedAndTakenOutOfTheShowListOnlyAndTheLinesBehindItStay)
 {
     const std::string live = Project("live.fms");
     const std::string dead = dir.file("p/dead.fms");
@@ -79,8 +80,17 @@ TEST_F(Recent, AMissingFileIsReportedAndTakenOutOfTheShowListOnly)
     EXPECT_TRUE(Said(shown[0],
                      dead + "\rdoes not exist\r\rEdit the History File and remove or update the path by going to "
                             "FILE, RECENT, FORM and EDIT HISTORY",
-                     "File not found", Icon::Exclamation));
+                     "No such file or directory", Icon::Exclamation));
     EXPECT_EQ(test::ReadFileBytes(dir.file("history.txt")), dir.file("show.shw") + "\r\n");
     EXPECT_EQ(test::ReadFileBytes(Forms()), "x " + dead + "\r\n" + live + "\r\n"); // keeps its dead line
-    EXPECT_FALSE(s.run.formMenu[0].visible);                                       // the refresh ended there
+    EXPECT_TRUE(s.run.formMenu[0].visible);
+    EXPECT_EQ(s.run.formMenu[0].caption, "1. " + live);
+    EXPECT_FALSE(s.run.formMenu[1].visible);
+
+    // without a show list to search, the refresh ends at the dead line
+    std::filesystem::remove(dir.file("history.txt"));
+    port.shown.clear();
+    store::RefreshFormList(s, port);
+    EXPECT_EQ(port.messages().size(), 1u);
+    EXPECT_FALSE(s.run.formMenu[0].visible);
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "port/platform.h"
 #include "scripted_port.h"
 #include "store/setup_store.h"
 #include "store/text_file.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <tuple>
@@ -94,4 +96,55 @@ TEST(SetupFile, SortMessages)
     store::SortSetupByNumber(setup, port, "SURVEY");
     EXPECT_EQ(port.last().text, "The Survey is already in sequential order and does not need to be sorted.\r\rTo "
                                 "change the Order, change the numbers below the Order button.");
+}
+
+TEST(DataFolder, TheStartAsksUntilAFolderIsGivenAndAGoneFolderIsKeptForThisRun)
+{
+    test::TempDir dir;
+    const std::string fixed = dir.file("docs/tarnquill/forms");
+    const std::string chosen = dir.file("my forms");
+    test::ScriptedPort port;
+    port.input(std::nullopt); // cancelled
+    port.input("");
+    port.input(chosen);
+    EXPECT_EQ(store::LoadDataFolder(port, fixed), chosen);
+    const auto shown = port.messages();
+    ASSERT_EQ(shown.size(), 2u);
+    for (const auto& m : shown)
+        EXPECT_TRUE(Said(m, "You must choose a folder path before you can continue", "NO FOLDER PATH WAS SELECTED"));
+    EXPECT_EQ(test::ReadFileBytes(fixed + "/Tarnquill.stt"), chosen + "\r\n");
+    EXPECT_TRUE(std::filesystem::exists(chosen + "/FormHistory.txt"));
+
+    // the folder is gone: one CHANGE PATH run, and this start keeps the old name
+    std::filesystem::remove_all(chosen);
+    const std::string other = dir.file("other");
+    port.clear();
+    port.answer(Answer::Yes);
+    port.file(other);
+    EXPECT_EQ(store::LoadDataFolder(port, fixed), chosen);
+    EXPECT_EQ(port.shown.front().title, "CHANGE PATH");
+    EXPECT_EQ(port.last().title, "RESTART TARNQUILL");
+    EXPECT_EQ(test::ReadFileBytes(fixed + "/Tarnquill.stt"), other + "\r\n");
+    EXPECT_FALSE(std::filesystem::exists(chosen));
+}
+
+TEST(DataFolder, TheFixedFolderLiesInTheDocumentsFolderOfTheDesktop)
+{
+    test::TempDir dir;
+    const auto keep = [](const char* name) {
+        const char* v = std::getenv(name);
+        return v ? std::optional<std::string>(v) : std::nullopt;
+    };
+    const auto home = keep("HOME"), config = keep("XDG_CONFIG_HOME"), docs = keep("XDG_DOCUMENTS_DIR");
+    ::setenv("HOME", dir.path().c_str(), 1);
+    ::setenv("XDG_CONFIG_HOME", dir.file("cfg").c_str(), 1);
+    ::unsetenv("XDG_DOCUMENTS_DIR");
+    EXPECT_EQ(platform::FixedFolder(), dir.path() + "/Documents/tarnquill/forms");
+    test::WriteFileBytes(dir.file("cfg/user-dirs.dirs"), "# made by hand\nXDG_DOCUMENTS_DIR=\"$HOME/Dokumente\"\n");
+    EXPECT_EQ(platform::FixedFolder(), dir.path() + "/Dokumente/tarnquill/forms");
+    ::setenv("XDG_DOCUMENTS_DIR", "/srv/papers", 1);
+    EXPECT_EQ(platform::FixedFolder(), "/srv/papers/tarnquill/forms");
+    using Saved = std::pair<const char*, std::optional<std::string>>;
+    for (const Saved& v : {Saved{"HOME", home}, Saved{"XDG_CONFIG_HOME", config}, Saved{"XDG_DOCUMENTS_DIR", docs}})
+        v.second ? ::setenv(v.first, v.second->c_str(), 1) : ::unsetenv(v.first);
 }

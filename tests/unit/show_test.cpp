@@ -199,4 +199,12 @@ TEST(ShowBuild, StopsOnAFailedCheckOrCancelAndWritesTheShowTheReadmeAndTheHistor
     EXPECT_TRUE(Said(port.last(), ShowDoneMessage(session.photoShow.settings, f), "DONE"));
     EXPECT_EQ(session.photoShow.OutputLine, "https://club.example/photos/photoshow.php");
     EXPECT_EQ(ReadFileBytes(data.file("history.txt")), f + "/club.shw\r\n");
+
+    // a show that was never saved is built without a line in the history
+    std::filesystem::remove(dir.file("club.shw"));
+    port.clear();
+    port.file(tpl);
+    ASSERT_TRUE(BuildShow(session, "", port));
+    EXPECT_EQ(port.messages().size(), 1u);
+    EXPECT_EQ(ReadFileBytes(data.file("history.txt")), f + "/club.shw\r\n");
 }

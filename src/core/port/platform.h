@@ -31,4 +31,17 @@ std::string JoinPath(std::string_view folder, std::string_view name);
 /// root "/". Returns the position of the path in `line`, or npos.
 size_t FindDriveMark(std::string_view line);
 
+/// The user's documents folder: XDG_DOCUMENTS_DIR from the environment or
+/// from the user-dirs.dirs file of the XDG configuration folder, else
+/// $HOME/Documents. Empty when not even HOME is set.
+std::string DocumentsFolder();
+
+/// The fixed folder that holds "\Tarnquill.stt": "tarnquill/forms" in the
+/// documents folder; empty when there is no documents folder.
+std::string FixedFolder();
+
+/// The system's text of the error that keeps `program` from starting: the
+/// program is looked for as a path, or on PATH when it names no folder.
+std::string StartErrorText(std::string_view program);
+
 } // namespace tq::platform

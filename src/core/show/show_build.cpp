@@ -277,10 +277,12 @@ bool BuildShow(Session& session, std::string_view programFolder, UiPort& ui)
     ui.message(ShowDoneMessage(s, folder), "DONE", Icon::Information);
     page.OutputLine = ShowLink(s);
 
-    if (!session.DataFolder.empty()) {
-        const char sep = folder.find('\\') != std::string::npos ? '\\' : '/';
-        store::AppendShowHistory(session, ui, folder + sep + s.ShowFileName);
-    }
+    // a show built before it was ever saved has no file to list
+    const char sep = folder.find('\\') != std::string::npos ? '\\' : '/';
+    const std::string showFile = folder + sep + s.ShowFileName;
+    std::error_code ec;
+    if (!session.DataFolder.empty() && std::filesystem::is_regular_file(showFile, ec))
+        store::AppendShowHistory(session, ui, showFile);
     return true;
 }
 

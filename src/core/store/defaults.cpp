@@ -52,6 +52,7 @@ bool SaveDefaults(Session& s, UiPort& ui, bool askFirst, const DefaultsHooks& ho
 
 bool RestoreDefaults(Session& s, UiPort& ui, const DefaultsHooks& hooks)
 {
+    ui.hidePreviews();
     FileDialogOptions options;
     options.initialFolder = s.DataFolder;
     options.initialName = platform::JoinPath(s.DataFolder, kDefaultName);

@@ -170,6 +170,7 @@ int OpenProject(
     Session& s, UiPort& ui, int sourcePage, std::string_view extension, bool fromRecentList, const ProjectHooks& hooks)
 {
     auto& state = s.store.state;
+    ui.hidePreviews();
     state.LoadPending = true;
 
     auto clearPromptKept = [&] {
@@ -186,6 +187,7 @@ int OpenProject(
             // "SURVEY" in both cases: a .fms picked in SURVEY mode stays there
             if (hooks.switchMode)
                 hooks.switchMode(s, ui, "SURVEY", sourcePage);
+            ui.hidePreviews();
             ui.showView(ViewOfPageNumber(sourcePage, View::Page1));
         } else if (clearPromptKept()) {
             state.LoadPending = false;

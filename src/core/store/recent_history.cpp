@@ -64,9 +64,12 @@ bool RefreshList(Session& s, UiPort& ui, RecentList list)
                 bool failed = false;
                 int removed = 0;
                 RemoveHistoryLine(showList, path, failed, &removed);
-                // a pass that removes nothing would see the same files again
-                if (failed || removed == 0)
+                if (failed)
                     return true;
+                // a pass that removes nothing would only see the same files
+                // again: go on with the lines behind the dead one instead
+                if (removed == 0)
+                    continue;
                 again = true;
                 break;
             }
@@ -158,12 +161,15 @@ bool FileDateParts(
         path = path.substr(at);
     std::error_code ec;
     auto stamp = fs::last_write_time(path, ec);
-    if (ec || !fs::is_regular_file(path, ec)) {
+    if (!ec && fs::is_directory(path, ec))
+        ec = std::make_error_code(std::errc::is_a_directory);
+    if (ec) {
+        // titled by the system's own text of the error
         ui.message(path +
                        "\rdoes not exist\r\rEdit the History File and remove or update the path by going to FILE, "
                        "RECENT, " +
                        std::string(mode) + " and EDIT HISTORY",
-                   "File not found", Icon::Exclamation);
+                   ec.message(), Icon::Exclamation);
         return false;
     }
     const auto days = std::chrono::floor<std::chrono::days>(std::chrono::file_clock::to_sys(stamp));

@@ -115,7 +115,7 @@ void ApplySetupMenus(SetupStore& setup)
     }
 }
 
-std::optional<std::string> LoadDataFolder(UiPort& ui, const std::string& fixedFolder)
+std::string LoadDataFolder(UiPort& ui, const std::string& fixedFolder)
 {
     MakeFolder(fixedFolder);
     std::string dataFolder;
@@ -126,17 +126,16 @@ std::optional<std::string> LoadDataFolder(UiPort& ui, const std::string& fixedFo
                 InstallHistoryFiles(dataFolder);
                 return dataFolder;
             }
-            // the folder is gone: the start waits until another one is chosen
-            if (ChangeDataFolder(ui, fixedFolder) == FolderChange::NoAnswer)
-                return std::nullopt;
-            continue;
+            // the folder is gone: the user may name another one, which is
+            // used from the next start on; this run keeps the old name
+            ChangeDataFolder(ui, fixedFolder);
+            return dataFolder;
         }
         if (dataFolder.empty())
             dataFolder = fixedFolder;
         auto answer = ui.inputBox("Choose the folder path where the forms will be saved", "FOLDER PATH", dataFolder);
-        if (!answer)
-            return std::nullopt;
-        if (answer->empty()) {
+        // the program cannot start without a folder: a cancelled box asks again
+        if (!answer || answer->empty()) {
             ui.message(kNoFolderText, kNoFolderTitle, Icon::Exclamation);
             continue;
         }

@@ -51,11 +51,11 @@ void ApplySetupMenus(SetupStore& setup);
 
 /// LoadDataFolder: reads "\Tarnquill.stt" in `fixedFolder` (created with its
 /// parents first). Asks for a folder until one is given (FOLDER PATH, NO
-/// FOLDER PATH WAS SELECTED, CREATION FAILURE) and runs ChangeDataFolder for
-/// a folder that is gone. Installs the empty form and survey lists into the
-/// folder when they are missing. nullopt only when the port can't ask (a
-/// cancelled input box or question): the program cannot start then.
-std::optional<std::string> LoadDataFolder(UiPort& ui, const std::string& fixedFolder);
+/// FOLDER PATH WAS SELECTED, CREATION FAILURE; a cancelled box asks again).
+/// A folder that is gone gets one run of ChangeDataFolder and is returned as
+/// it stands: a new choice takes effect at the next start. Installs the empty
+/// form and survey lists into the folder when they are missing.
+std::string LoadDataFolder(UiPort& ui, const std::string& fixedFolder);
 
 /// What ChangeDataFolder did.
 enum class FolderChange { Saved, Kept, NoAnswer };
