@@ -88,6 +88,35 @@ TEST_F(EditPage, SetupValuesGoIntoTheSettingsAndHiddenRowsAreKept)
     EXPECT_EQ(s->settings.FrameOff, 1);
 }
 
+TEST_F(EditPage, TheCommitEndsAtTheFirstRowWithoutAKey)
+{
+    const std::string first = Group("[Title=Enter your full name]", "[Info: t]");
+    s->store.pages[0][1].AttributeText =
+        first + Group("[=loose]", "[Info: l]") + Group("[Title Shade Width=40]", "[Choices=1% to 100%]");
+    EditState st = OpenEditPage(*s, port, 1, 1);
+    ASSERT_EQ(st.fields.size(), 3u);
+    ASSERT_EQ(CommitEditPage(*s, port, st), 0); // the width behind it is neither checked nor kept
+    EXPECT_TRUE(port.shown.empty());
+    EXPECT_EQ(s->store.pages[0][1].AttributeText, first);
+}
+
+TEST_F(EditPage, TheFrameSwitchedOnInAFormShowsTheWarningOfTheModeSwitch)
+{
+    s->store.state.ProjectMode = "FORM";
+    EditState st = OpenEditPage(*s, port, 1, 0);
+    SetPullDownValue(*s, port, st, 4, "NO");
+    EXPECT_TRUE(port.shown.empty());
+    EXPECT_EQ(s->settings.FrameOff, 1);
+    EXPECT_FALSE(st.fields[5].visible);
+    SetPullDownValue(*s, port, st, 4, "YES");
+    EXPECT_TRUE(Said(port.last(),
+                     "That is because all input type colors must be changed to black\rAll entries must be cleared "
+                     "before you can switch the table off.",
+                     "ABORTED", Icon::Information));
+    EXPECT_EQ(s->settings.FrameOff, 0);
+    EXPECT_TRUE(st.fields[5].visible);
+}
+
 TEST_F(EditPage, ChangeColorStoresTheValue)
 {
     EditState st = OpenEditPage(*s, port, 1, 0);

@@ -2,6 +2,7 @@
 #include "editing_fixture.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace tq;
 using namespace tq::model;
@@ -51,6 +52,36 @@ TEST(InsertAtRow, RefusalsChangeNothingAndSayWhy)
     for (int p = 0; p < 4; ++p)
         for (int r = 0; r < 25; ++r)
             EXPECT_EQ(f.store.pages[p][r].AttributeText, before[p][r].AttributeText) << p << " " << r;
+}
+
+TEST(InsertAtRow, ADraggedRowIsReadWhereTheMarkPointsAfterTheRoomIsMade)
+{
+    auto dragged = [](int source, int target) {
+        auto f = std::make_unique<EditFixture>();
+        f->fill(1, 0, 0, "Setup");
+        const char* const types[] = {"Name", "Subject", "Email", "Phone Number"};
+        for (int row = 1; row <= 4; ++row)
+            f->fill(1, row, row, types[row - 1]);
+        f->store.state.DragSource = 100 + source;
+        InsertAtRow(f->ctx, 1, target, -1);
+        EXPECT_EQ(f->store.state.DragSource, 0);
+        return f;
+    };
+    // from below: the row has moved down with the room, and the mark with it
+    auto f = dragged(4, 2);
+    EXPECT_EQ(f->names(1, 1, 5),
+              (std::vector<std::string>{"Name", "Phone Number", "Subject", "Email", "Phone Number"}));
+    EXPECT_EQ(f->at(1, 2).AttributeText, "[Title=Phone Number]\r\n");
+    // from above: the mark points at the row after the source
+    f = dragged(1, 3);
+    EXPECT_EQ(f->names(1, 1, 5), (std::vector<std::string>{"Name", "Subject", "Subject", "Email", "Phone Number"}));
+    // right above the drop that row is the room itself: the drop ends with the room made
+    f = dragged(2, 3);
+    EXPECT_EQ(f->names(1, 1, 5), (std::vector<std::string>{"Name", "Subject", "", "Email", "Phone Number"}));
+    // onto an empty row nothing moves and the source stays
+    f = dragged(1, 7);
+    EXPECT_EQ(f->name(1, 7), "Name");
+    EXPECT_EQ(f->name(1, 1), "Name");
 }
 
 TEST(ClearAllRows, EachCallerAsksItsOwnQuestionAndNoKeepsEverything)

@@ -43,7 +43,8 @@ TEST(ExternalTools, EachLauncherStartsItsProgramOrSaysWhyNot)
          "No FTP program was selected in SETUP. Go to setup and enter the full path of the FTP program that you will "
          "be using",
          "Error launching FTP CLIENT",
-         "File not found\rThe FTP path in SETUP does not exist.\r\rGo to setup and enter the full path of the FTP "
+         "No such file or directory\rThe FTP path in SETUP does not exist.\r\rGo to setup and enter the full path of "
+         "the FTP "
          "program that you will be using",
          "Error launching FTP CLIENT "},
         {[](store::SetupStore& s, UiPort& ui) { return OpenLiveRow(s, 3, ui); },
@@ -51,7 +52,8 @@ TEST(ExternalTools, EachLauncherStartsItsProgramOrSaysWhyNot)
          {"/usr/bin/browser", {"https://club.example/index.htm"}, ""},
          "To add a menu item to the list, go to setup and add the new web folder to the list",
          "NO ENTRY FOUND",
-         "File not found when launching your default Internet Browser\r\rGo to setup and enter a valid path of your "
+         "No such file or directory when launching your default Internet Browser\r\rGo to setup and enter a valid path "
+         "of your "
          "Internet Browser that you will be using",
          "Error launching Internet Browser"},
         {[](store::SetupStore& s, UiPort& ui) { return OpenEditorRow(s, 3, ui); },
@@ -60,7 +62,8 @@ TEST(ExternalTools, EachLauncherStartsItsProgramOrSaysWhyNot)
          "No Web Editor was selected in SETUP. Go to setup and enter the full path of the Web Editor that you will "
          "be using",
          "Error launching Web Editor",
-         "The Path does not exist. File not found\r\rGo to setup and enter the full path of the Web Editor that you "
+         "The Path does not exist. No such file or directory\r\rGo to setup and enter the full path of the Web Editor "
+         "that you "
          "will be using",
          "Error launching Web Editor"},
     };
@@ -87,4 +90,20 @@ TEST(ExternalTools, EachLauncherStartsItsProgramOrSaysWhyNot)
         ASSERT_EQ(failing.messages().size(), 1u);
         EXPECT_TRUE(Said(failing.last(), l.failedText, l.failedTitle));
     }
+}
+
+TEST(ExternalTools, AFailedStartIsToldInTheSystemsWords)
+{
+    test::TempDir dir;
+    const std::string plain = dir.file("notes.txt");
+    test::WriteFileBytes(plain, "not a program");
+    auto setup = Tools();
+    setup.FTPProgramPath = plain;
+    ScriptedPort ui;
+    ui.startResult = false;
+    EXPECT_FALSE(LaunchFTP(setup, ui));
+    EXPECT_EQ(ui.last().text.substr(0, ui.last().text.find('\r')), "Permission denied");
+    setup.FTPProgramPath = dir.path();
+    EXPECT_FALSE(LaunchFTP(setup, ui));
+    EXPECT_EQ(ui.last().text.substr(0, ui.last().text.find('\r')), "Is a directory");
 }

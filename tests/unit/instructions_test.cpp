@@ -47,6 +47,14 @@ TEST_F(Instructions, AWholePageFormNamesBothFilesAndTheServerPath)
     s->store.state.ProjectMode = "FORM";
     s->setup.rows[2].WebFolderPath = web.path() + "/";
     s->setup.rows[2].WebServerPath = ";https://site.example/forms";
+    // two pictures make one line, with the first path
+    for (int row : {1, 2})
+        s->store.pages[0][static_cast<size_t>(row)] = {
+            "Picture",
+            "[Server Picture Path=https://site.example/img" + std::to_string(row) +
+                "/] [Info: p]\r\n[Align=center] [Choices=l]\r\n[Picture Width=200] [Info: w]\r\n"
+                "[Picture Height=100] [Info: h]\r\n",
+            std::to_string(row + 1), true};
     compose::CreateFormHTMLCode(*s, port);
     EXPECT_EQ(port.page.instructions,
               "Web Server File Path: https://site.example/forms\r\n"
@@ -56,7 +64,9 @@ TEST_F(Instructions, AWholePageFormNamesBothFilesAndTheServerPath)
                   web.path() +
                   "\r\n1. FTP the formtql.htm file and the formtql.php file to your Web Server.\r\n"
                   "2. Open your Internet Browser at the formtql.htm page of your Web Site\r\n"
-                  "   to test your FORM.\r\n" +
+                  "   to test your FORM.\r\n"
+                  "Web Server Background Path: x.gif\r\n" // commented out, and listed all the same
+                  "Web Server Picture Path: https://site.example/img1\r\n" +
                   web.path() + "\r\n");
     EXPECT_EQ(port.page.instructions, test::ReadFileBytes(data.file("Instruct.txt")));
 }

@@ -142,13 +142,17 @@ void InsertAtRow(EditContext& c, int page, int row, int pickIndex)
     std::string pickName;
     if (pickIndex >= 0 && pickIndex <= c.catalogue.CatalogueCount)
         pickName = CatalogueName(c.catalogue, pickIndex);
+    // the row under the drag mark; empty when the mark names no row
+    auto draggedRow = [&]() -> const Entry* {
+        const int from = st.DragSource - 100;
+        return from >= 0 && from <= kLastRow ? &GetEntry(c.store, page, from) : nullptr;
+    };
     std::string source = pickName;
     std::string sourceText;
     if (dragged) {
-        // a dragged row is read before room is made: dragging copies it
-        const Entry& from = GetEntry(c.store, page, st.DragSource - 100);
-        source = from.InputTypeName;
-        sourceText = from.AttributeText;
+        // the checks below judge the row that was picked up
+        if (const Entry* from = draggedRow())
+            source = from->InputTypeName;
     } else if (pickIndex >= 0 && pickIndex <= c.catalogue.CatalogueCount)
         sourceText = CatalogueTemplate(c.catalogue, pickIndex);
     const std::string target = GetEntry(c.store, page, row).InputTypeName;
@@ -175,8 +179,12 @@ void InsertAtRow(EditContext& c, int page, int row, int pickIndex)
     if (!dragged && (pickIndex < 0 || pickIndex > c.catalogue.CatalogueCount))
         return stop();
 
-    if (!Trim(target).empty())
+    // room first, then the mark moves one down, in that order: the mark
+    // follows a source row below the drop, and one above it is not followed
+    if (!Trim(target).empty()) {
         InsertRows(c.store, page, row + 1, NeedsTwoRows(source) ? 1 : 2);
+        ++st.DragSource;
+    }
 
     c.ui.hidePreviews();
     GetEntry(c.store, page, row).EditEnabled = true;
@@ -186,10 +194,13 @@ void InsertAtRow(EditContext& c, int page, int row, int pickIndex)
         c.ui.message("Entries are full", "FULL", Icon::Exclamation);
         return stop();
     }
-    if (dragged && Trim(source).empty())
-        return stop();
-
     if (dragged) {
+        // the row is read where the mark points now: dragging copies it
+        const Entry* from = draggedRow();
+        source = from ? from->InputTypeName : std::string();
+        sourceText = from ? from->AttributeText : std::string();
+        if (Trim(source).empty())
+            return stop();
         // moved text is already in its stored form
         SetInputTypeName(c.store, page, row, source);
         GetEntry(c.store, page, row).AttributeText = sourceText;

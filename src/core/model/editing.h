@@ -44,7 +44,11 @@ std::optional<RowRef> AddToFirstFreeRow(EditContext& c, int page, int catalogueI
 /// when DragSource is above 30 (it is copied, its row stays), else the pick
 /// list item `pickIndex`. Refuses a drop on a Followup (INVALID), a pair on
 /// row 24 (silently) and the SETUP row (CANNOT COPY SETUP). A filled target
-/// is pushed down to make room; a pair gets its Followup behind it.
+/// is pushed down to make room; a pair gets its Followup behind it. A
+/// dragged row is copied from where the drag mark points after the room was
+/// made and the mark moved one down: a row from below the drop is found
+/// again, while from above it the row after the source is taken, and an
+/// empty one ends the drop.
 void InsertAtRow(EditContext& c, int page, int row, int pickIndex);
 
 /// Makes room on one Page before row `row - 1`: two blank rows in mode 1,

@@ -9,7 +9,6 @@
 namespace tq::model {
 
 namespace {
-constexpr char kCR = '\r';
 
 struct DefaultRow
 {
@@ -96,8 +95,7 @@ int SwitchMode(
     // 3: the mode stays changed when the user keeps the entries
     if (keepEntries == 0 && !ClearAllRows(c, 1)) {
         const std::string text =
-            frameSwitch ? std::string("That is because all input type colors must be changed to black") + kCR +
-                              "All entries must be cleared before you can switch the table off."
+            frameSwitch ? std::string(kFrameSwitchWarning)
                         : "All entries must be cleared before you can switch to the " + std::string(mode) + " page";
         c.ui.message(text, "ABORTED", Icon::Information);
         st.SwitchInProgress = false;

@@ -8,6 +8,12 @@
 
 namespace tq::model {
 
+/// The warning of a frame switch, titled "ABORTED": shown when the switch off
+/// can't clear the rows, and when the frame is switched on.
+inline constexpr std::string_view kFrameSwitchWarning =
+    "That is because all input type colors must be changed to black\rAll entries must be cleared before you can "
+    "switch the table off.";
+
 /// Empties the six sample paths, puts the template settings back to their
 /// defaults, rebuilds the catalogue and sets row 0 of Page 1 to "Setup" with
 /// the SETUP template in its stored form.

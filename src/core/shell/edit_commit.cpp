@@ -147,9 +147,11 @@ std::string ComposeEditText(const EditState& st)
 {
     std::string text;
     for (const auto& f : st.fields) {
+        // the rows end at the first one without a key
+        if (model::Trim(f.Key).empty())
+            break;
         const size_t eq = f.ItemText.find('=');
-        // a row without a key keeps its line as it stands
-        const std::string item = model::Trim(f.Key).empty() || eq == std::string::npos
+        const std::string item = eq == std::string::npos
                                      ? f.ItemText
                                      : f.ItemText.substr(0, eq + 1) + std::string(model::Trim(f.Value)) + "]";
         text += item + "\r\n" + f.HelpLine + "\r\n\r\n";
@@ -164,7 +166,9 @@ int CheckEditRows(Session& s, UiPort& ui, EditState& st, bool keepValues)
         f.failed = false;
     for (size_t i = 0; i < st.fields.size(); ++i) {
         EditField& f = st.fields[i];
-        if (model::Trim(f.Key).empty() || !f.visible || s.store.state.QuickPreviewActive)
+        if (model::Trim(f.Key).empty())
+            break;
+        if (!f.visible || s.store.state.QuickPreviewActive)
             continue;
         std::string value(model::Trim(f.Value));
         int err = 0;

@@ -4,6 +4,7 @@
 #include "compose/setup_checks.h"
 #include "model/attribute_text.h"
 #include "model/internal_error.h"
+#include "model/new_project.h"
 #include "model/text_ops.h"
 #include "session.h"
 #include "shell/quiet_port.h"
@@ -221,10 +222,8 @@ void ApplyToggle(Session& s, UiPort& ui, EditState& st, int row)
     auto& settings = s.settings;
     if (k == "INCLUDE FRAME WITH FORM" && EqualsNoCase(s.store.state.ProjectMode, "FORM")) {
         if (yes) {
-            // Entries already placed keep their text colours; only new ones follow the frame.
-            ui.message("The frame is now included with your FORM\r\rThe Text Colors of the Input Types that are "
-                       "already on your FORM stay as they are. New Input Types start with a white text color",
-                       "FRAME", Icon::Information);
+            // the warning of the mode switch: the colours of the rows are not changed here
+            ui.message(model::kFrameSwitchWarning, "ABORTED", Icon::Information);
             settings.FrameOff = 0;
         } else {
             settings.FrameOff = 1;

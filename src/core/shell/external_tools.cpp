@@ -88,7 +88,7 @@ bool LaunchFTP(const store::SetupStore& setup, UiPort& ui)
     }
     if (ui.startProgram(program, {}, ProgramFolder(program)))
         return true;
-    ui.message(std::string(kStartErrorText) +
+    ui.message(platform::StartErrorText(program) +
                    "\rThe FTP path in SETUP does not exist.\r\rGo to setup and enter the full path of the FTP program "
                    "that you will be using",
                "Error launching FTP CLIENT ", Icon::Critical);
@@ -105,7 +105,7 @@ bool OpenLiveRow(const store::SetupStore& setup, int n, UiPort& ui)
     }
     if (ui.startProgram(setup.BrowserPath, {row->WebServerPath}, ""))
         return true;
-    ui.message(std::string(kStartErrorText) +
+    ui.message(platform::StartErrorText(setup.BrowserPath) +
                    " when launching your default Internet Browser\r\rGo to setup and enter a valid path of your "
                    "Internet Browser that you will be using",
                "Error launching Internet Browser", Icon::Critical);
@@ -130,7 +130,8 @@ bool OpenEditorRow(const store::SetupStore& setup, int n, UiPort& ui)
         ui.hidePreviews(); // the editor takes the screen
         return true;
     }
-    ui.message("The Path does not exist. " + std::string(kStartErrorText) + "\r\r" + std::string(kEditorHint),
+    ui.message("The Path does not exist. " + platform::StartErrorText(setup.WebEditorPath) + "\r\r" +
+                   std::string(kEditorHint),
                kEditorTitle, Icon::Critical);
     return false;
 }

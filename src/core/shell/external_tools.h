@@ -10,10 +10,6 @@
 
 namespace tq::shell {
 
-/// The text of the error when a program could not be started: the port says
-/// only that it failed, and a missing program is the case that happens.
-inline constexpr std::string_view kStartErrorText = "File not found";
-
 /// The folder of a program path: walks from its last character back to the
 /// third until a "/" or "\" is met and keeps the text before it; empty when
 /// none is met ("/usr/bin/filezilla" gives "/usr/bin").

@@ -9,6 +9,7 @@
 #include "store/text_file.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tq::shell {
 
@@ -73,32 +74,38 @@ bool HasDownloads(const model::EntryStore& store)
 
 std::vector<std::string> ListExtraPaths(const model::EntryStore& store)
 {
-    std::vector<std::string> lines;
-    auto add = [&](std::string_view label, std::string path) {
+    // one line for each kind of upload the project holds, with the first path
+    // of that kind; a commented-out path is listed without its ";"
+    struct Kind
+    {
+        std::string_view label;
+        std::string path;
+    };
+    std::array<Kind, 4> kinds{{{"Web Server Download Path: ", {}},
+                               {"Web Server Background Path: ", {}},
+                               {"Web Server Picture Path: ", {}},
+                               {"Web Server Video Path: ", {}}}};
+    auto note = [](Kind& kind, std::string path) {
         path = CutSeparator(CutSemicolon(std::move(path)));
-        if (path.empty())
-            return;
-        const std::string line = std::string(label) + path;
-        if (std::find(lines.begin(), lines.end(), line) == lines.end())
-            lines.push_back(line);
+        if (kind.path.empty())
+            kind.path = std::move(path);
     };
     for (const auto& page : store.pages)
         for (const auto& e : page) {
-            if (e.InputTypeName.empty())
-                continue;
-            if (model::StartsWithNoCase(model::Trim(e.InputTypeName), "DOWNLOAD"))
-                add("Web Server Download Path: ", PeekValue(e.AttributeText, "SERVER DOWNLOAD"));
-            if (model::EqualsNoCase(model::Trim(e.InputTypeName), "SETUP")) {
-                const std::string image = PeekValue(e.AttributeText, "BACKGROUND IMAGE PATH");
-                // a commented-out sample image is not uploaded
-                if (!image.empty() && image.front() != ';')
-                    add("Web Server Background Path: ", image);
-            }
+            const std::string_view type = model::Trim(e.InputTypeName);
+            if (model::StartsWithNoCase(type, "DOWNLOAD"))
+                note(kinds[0], PeekValue(e.AttributeText, "SERVER DOWNLOAD"));
+            if (model::EqualsNoCase(type, "SETUP"))
+                note(kinds[1], PeekValue(e.AttributeText, "BACKGROUND IMAGE PATH"));
             if (model::FindNoCase(e.AttributeText, "[SERVER PICTURE PATH=") != std::string::npos)
-                add("Web Server Picture Path: ", PeekValue(e.AttributeText, "SERVER PICTURE PATH"));
+                note(kinds[2], PeekValue(e.AttributeText, "SERVER PICTURE PATH"));
             if (model::FindNoCase(e.AttributeText, "[SERVER VIDEO PATH=") != std::string::npos)
-                add("Web Server Video Path: ", PeekValue(e.AttributeText, "SERVER VIDEO PATH"));
+                note(kinds[3], PeekValue(e.AttributeText, "SERVER VIDEO PATH"));
         }
+    std::vector<std::string> lines;
+    for (const Kind& kind : kinds)
+        if (!kind.path.empty())
+            lines.push_back(std::string(kind.label) + kind.path);
     return lines;
 }
 

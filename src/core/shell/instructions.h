@@ -30,9 +30,9 @@ struct FinalPageText
 };
 
 /// The lines for the extra uploads of the project: "Web Server Download
-/// Path: ", "Web Server Background Path: " (an active background image only),
-/// "Web Server Picture Path: " and "Web Server Video Path: ", one line per
-/// distinct path, each without a leading ";" and a trailing "/" or "\".
+/// Path: ", "Web Server Background Path: ", "Web Server Picture Path: " and
+/// "Web Server Video Path: ", one line for each kind the project holds, with
+/// the first path of that kind, without a leading ";" and a trailing "/" or "\".
 std::vector<std::string> ListExtraPaths(const model::EntryStore& store);
 
 /// True when the project holds a download Entry.

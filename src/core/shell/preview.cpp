@@ -7,6 +7,7 @@
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
+#include "shell/batch_commands.h"
 
 namespace tq::shell {
 
@@ -64,18 +65,7 @@ int SetShadeWidthAll(Session& s, UiPort& ui)
         }
         ui.message("Value must be from 1 to 100", "ERROR", Icon::Exclamation);
     }
-    int changed = 0;
-    for (auto& page : s.store.pages)
-        for (auto& e : page) {
-            if (e.InputTypeName.empty() || model::FindNoCase(e.AttributeText, "[SHADE WIDTH") == std::string::npos)
-                continue;
-            std::string text = e.AttributeText;
-            compose::RewriteAttribute(s, "[SHADE WIDTH", value, text);
-            if (s.build.buildError != 0)
-                return changed;
-            e.AttributeText = std::move(text);
-            ++changed;
-        }
+    const int changed = RewriteOnAllRows(s, "[SHADE WIDTH", value, false);
     ui.entriesChanged();
     return changed;
 }
