@@ -88,10 +88,14 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     m_rowsHeading->setStyleSheet("font-weight: 600;");
     m_clearAll = new QPushButton("CLR All");
     m_clearAll->setObjectName("ClearAll");
+    m_background = new QPushButton("Background Picture");
+    m_background->setObjectName("BackgroundPicture");
+    connect(m_background, &QPushButton::clicked, this, [handler] { handler("BackgroundPicture"); });
     buttons->addWidget(m_order);
     buttons->addSpacing(12);
     buttons->addWidget(m_rowsHeading);
     buttons->addStretch();
+    buttons->addWidget(m_background);
     buttons->addWidget(m_clearAll);
     rl->addLayout(buttons);
 
@@ -155,8 +159,11 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     m_previewPane->setFrameShape(QFrame::StyledPanel);
     auto* pl = new QVBoxLayout(m_previewPane);
     pl->setContentsMargins(6, 6, 6, 6);
-    auto* previewHint = Hint("Highlight and click on SPACEBAR to preview any selection. ESC key to Exit Preview");
-    previewHint->setObjectName("lblPreviewHint");
+    // two buttons over the preview: the first gives the focus back to the pick list
+    auto* previewHint =
+        new QPushButton("Highlight and click on SPACEBAR to preview any selection. ESC key to Exit Preview");
+    previewHint->setObjectName("cmdPreviewHint");
+    connect(previewHint, &QPushButton::clicked, this, [this] { m_pick->setFocus(); });
     auto* previewExit = new QPushButton("ESC TO EXIT OR CLICK HERE");
     previewExit->setObjectName("cmdExitPreview");
     previewExit->setToolTip("ESC to exit Quick Preview");
@@ -256,6 +263,8 @@ void CreatePage::setToolTipsShown(bool on)
     m_clearAll->setToolTip(on ? "To clear all input types that were added, click here or hit the clear button below "
                                 "to clear individual added input types"
                               : QString());
+    m_background->setToolTip(on ? "Click here to add or remove a background picture to your Form or Survey"
+                                : QString());
     for (int row = 0; row < model::kRowsPerPage; ++row)
         if (auto* edit = m_table->indexWidget(m_model->index(row, EntryTableModel::ColEdit)))
             edit->setToolTip(on ? "Click on the Edit Button to make changes" : QString());

@@ -84,6 +84,7 @@ class CreatePage : public QWidget
     QLabel* m_rowsHeading = nullptr;
     QPushButton* m_order = nullptr;
     QPushButton* m_clearAll = nullptr;
+    QPushButton* m_background = nullptr;
     QFrame* m_previewPane = nullptr;
     QSplitter* m_split = nullptr;
     QWebEngineView* m_web = nullptr;

@@ -95,6 +95,8 @@ EditPage::EditPage(Session& session, UiPort& ui, QWidget* parent) : QWidget(pare
         paintRow(row);
         m_window->hide();
         m_scroll->show();
+        if (onCaptionChanged)
+            onCaptionChanged();
     };
     m_window->onPreview = [this](const QString& text) {
         const int row = m_window->row();
@@ -363,6 +365,13 @@ void EditPage::openEditWindow(int row)
     if (m_web)
         m_web->hide();
     m_window->show();
+    if (onCaptionChanged)
+        onCaptionChanged();
+}
+
+QString EditPage::caption() const
+{
+    return m_window->isHidden() ? QStringLiteral("EDIT PAGE") : QStringLiteral("EDIT WINDOW");
 }
 
 } // namespace tq::gui

@@ -54,8 +54,14 @@ class EditPage : public QWidget
     void exitPreview();
     void openEditWindow(int row);
 
+    /// The caption of what is shown: "EDIT WINDOW" while the edit window is
+    /// open, else "EDIT PAGE".
+    QString caption() const;
+
     /// Called after the page was left (the views refresh from the store).
     std::function<void()> onLeft;
+    /// Called when the edit window opens or closes (the caption changes).
+    std::function<void()> onCaptionChanged;
 
   private:
     void buildRows();

@@ -50,8 +50,6 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
             handler("ViewFormSurvey");
         else if (name == "MainMenu")
             handler("Main");
-        else if (name == "ViewFolder")
-            m_ui.openTarget(m_folder.toUtf8().toStdString());
         else
             handler(name);
     };
@@ -148,9 +146,8 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
     });
 }
 
-void FinalPage::fill(const shell::FinalPageText& text, const QString& outputFolder)
+void FinalPage::fill(const shell::FinalPageText& text)
 {
-    m_folder = outputFolder;
     m_codeText = text.code;
     m_title->setText(ToQ(text.title));
     m_copy->setText(ToQ(text.buttonCaption));

@@ -24,8 +24,8 @@ class FinalPage : public QWidget
   public:
     FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent = nullptr);
 
-    /// Shows what ShowInstructions returned; `outputFolder` is what ViewFolder opens.
-    void fill(const shell::FinalPageText& text, const QString& outputFolder);
+    /// Shows what ShowInstructions returned.
+    void fill(const shell::FinalPageText& text);
     /// The publish check's line under the instructions; empty hides it.
     void setPublishWarning(const QString& warning);
 
@@ -45,7 +45,6 @@ class FinalPage : public QWidget
     QLabel* m_warning = nullptr;
     QListWidget* m_uploads = nullptr;
     QPushButton* m_copy = nullptr;
-    QString m_folder;
     std::string m_codeText; // the output file as it stands, CR LF kept
 };
 

@@ -2,6 +2,7 @@
 #include "main_window.h"
 
 #include "create_page.h"
+#include "edit_page.h"
 #include "port/platform.h"
 #include "qt_port.h"
 #include "setup_page.h"
@@ -16,6 +17,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMenu>
 #include <QStackedWidget>
 #include <algorithm>
@@ -29,6 +31,20 @@ QString ToQ(const std::string& s)
     return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
 }
 
+// The window title: the page caption when there is one, the project's file
+// name when one is loaded, and the program's name, in that order.
+QString WindowTitle(const QString& caption, const QString& projectPath)
+{
+    QStringList parts;
+    if (!caption.isEmpty())
+        parts << caption;
+    const QString file = QFileInfo(projectPath).fileName();
+    if (!file.isEmpty())
+        parts << file;
+    parts << QStringLiteral("Tarnquill");
+    return parts.join(QStringLiteral(" \u2014 "));
+}
+
 } // namespace
 
 MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
@@ -36,8 +52,8 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
 {
     setObjectName("MainWindow");
     setWindowTitle("Tarnquill");
-    m_fixedFolder = documentsFolder.isEmpty() ? ToQ(platform::FixedFolder())
-                                              : QDir(documentsFolder).filePath("tarnquill/forms");
+    m_fixedFolder =
+        documentsFolder.isEmpty() ? ToQ(platform::FixedFolder()) : QDir(documentsFolder).filePath("tarnquill/forms");
 
     m_stack = new QStackedWidget(this);
     setCentralWidget(m_stack);
@@ -184,6 +200,13 @@ void MainWindow::showView(View v)
     }
     m_view = v;
     m_stack->setCurrentWidget(page);
+    refreshWindowTitle();
+}
+
+void MainWindow::refreshWindowTitle()
+{
+    const QString caption = m_view == View::EditPage && m_edit ? m_edit->caption() : QString();
+    setWindowTitle(WindowTitle(caption, ToQ(m_session.run.CurrentProjectName)));
 }
 
 void MainWindow::registerCommand(const QString& name, std::function<void()> run)
@@ -318,6 +341,7 @@ void MainWindow::refreshAll()
     }
     applyToolTips();
     refreshMenus();
+    refreshWindowTitle();
     if (m_setup && m_view == View::SetupPage)
         m_setup->refresh();
 }

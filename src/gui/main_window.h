@@ -75,6 +75,9 @@ class MainWindow : public QMainWindow
 
     /// Re-reads every view (rows, captions, menus) from the core's records.
     void refreshAll();
+    /// Writes the window title: the caption of the edit page or edit window
+    /// while one is shown, the project's file name, the program's name.
+    void refreshWindowTitle();
 
     /// When set, ConfirmExit and closing the window end through this instead
     /// of quitting the application.
@@ -92,7 +95,9 @@ class MainWindow : public QMainWindow
     void registerEditCommands();
     void openEntryEditPage(int page, int row, const std::string& selectKey);
     void fillFinalPage();
-    void showWholePagePreview();
+    /// The preview window on the output file; `fromFinalPage` sets the
+    /// previewCaller that takes its Exit back to the final page.
+    void showWholePagePreview(bool fromFinalPage);
     void confirmExit();
     void runBuild(bool wholePage);
     void endProgram();
@@ -111,6 +116,8 @@ class MainWindow : public QMainWindow
     void registerModeCommands();
     void wireRowActions(CreatePage* p);
     void followPickSelection(int pickIndex);
+    /// Selects item `pickIndex` of the pick list of `page` and gives it the focus.
+    void selectPickItem(int page, int pickIndex);
     void quickPreview(int page, int pickIndex);
     void applyToolTips();
 

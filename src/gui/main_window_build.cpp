@@ -23,6 +23,8 @@ void MainWindow::registerBuildCommands()
 void MainWindow::runBuild(bool wholePage)
 {
     Session& s = m_session;
+    // the preview's Exit goes back to the final page only when the build was started there
+    const bool fromFinalPage = m_view == View::FinalPage;
     m_buildFinished = false;
     {
         BusyCursor busy;
@@ -45,7 +47,7 @@ void MainWindow::runBuild(bool wholePage)
     }
     finalPage()->setPublishWarning(QString::fromStdString(warning));
     if (wholePage)
-        showWholePagePreview();
+        showWholePagePreview(fromFinalPage);
 }
 
 } // namespace tq::gui

@@ -6,6 +6,7 @@
 #include "main_window.h"
 #include "preview_window.h"
 #include "qt_port.h"
+#include "shell/batch_commands.h"
 #include "shell/instructions.h"
 #include "shell/preview.h"
 
@@ -27,6 +28,7 @@ EditPage* MainWindow::editPage()
     if (!m_edit) {
         m_edit = new EditPage(m_session, *m_port);
         m_edit->onLeft = [this] { refreshAll(); };
+        m_edit->onCaptionChanged = [this] { refreshWindowTitle(); };
         registerPage(View::EditPage, m_edit);
     }
     return m_edit;
@@ -36,11 +38,7 @@ FinalPage* MainWindow::finalPage()
 {
     if (!m_final) {
         m_final = new FinalPage(*m_port, [this](const QString& name) { runCommand(name); });
-        m_final->onPreviewFullScreen = [this] {
-            m_session.run.previewCaller = 9;
-            previewWindow()->showFile(ToQ(m_session.build.htmlPath));
-            showView(View::Preview);
-        };
+        m_final->onPreviewFullScreen = [this] { showWholePagePreview(true); };
         registerPage(View::FinalPage, m_final);
     }
     return m_final;
@@ -54,7 +52,7 @@ PreviewWindow* MainWindow::previewWindow()
             auto& caller = m_session.run.previewCaller;
             if (caller != 9) {
                 showView(View::Page1);
-                createPage(1)->focusFirstRow();
+                selectPickItem(1, 0);
             } else {
                 showView(View::FinalPage);
             }
@@ -72,6 +70,13 @@ void MainWindow::registerEditCommands()
     QTimer::singleShot(200, this, [this] { previewWindow(); });
     // the batch command of the Pages: one shade width for every question
     registerCommand("ShadeWidthAll", [this] { shell::SetShadeWidthAll(m_session, *m_port); });
+    registerCommand("SetAlignmentOnAll", [this] { shell::SetAlignmentOnAll(m_session, *m_port, "[ALIGN"); });
+    registerCommand("SetTableAlignmentOnAll", [this] { shell::SetAlignmentOnAll(m_session, *m_port, "[TABLE ALIGN"); });
+    registerCommand("TableForeColor", [this] { shell::SetTableColor(m_session, *m_port, true); });
+    registerCommand("TableBackColor", [this] { shell::SetTableColor(m_session, *m_port, false); });
+    registerCommand("DragDropHelp", [this] { shell::ShowDragDropHelp(*m_port); });
+    // the page's command for the background picture: the SETUP entry's row for it
+    registerCommand("BackgroundPicture", [this] { openEntryEditPage(1, 0, ""); });
 }
 
 void MainWindow::openEntryEditPage(int page, int row, const std::string& selectKey)
@@ -86,17 +91,12 @@ void MainWindow::openEntryEditPage(int page, int row, const std::string& selectK
 
 void MainWindow::fillFinalPage()
 {
-    const shell::FinalPageText text = shell::ShowInstructions(m_session, *m_port);
-    QString folder = ToQ(m_session.build.setupValues.WebFolder);
-    while (folder.endsWith('/') || folder.endsWith('\\'))
-        folder.chop(1);
-    finalPage()->fill(text, folder);
+    finalPage()->fill(shell::ShowInstructions(m_session, *m_port));
 }
 
-void MainWindow::showWholePagePreview()
+void MainWindow::showWholePagePreview(bool fromFinalPage)
 {
-    // the build ended on the final page: Exit of the preview goes back there
-    m_session.run.previewCaller = 9;
+    m_session.run.previewCaller = fromFinalPage ? 9 : 0;
     previewWindow()->showFile(ToQ(m_session.build.htmlPath));
     showView(View::Preview);
 }

@@ -105,15 +105,19 @@ void MainWindow::wireRowActions(CreatePage* p)
         refreshAll();
         createPage(page)->focusPickList();
     };
+    // both leave Page 1 with the first item of its pick list selected
     p->onClearAll = [this](int) {
         auto c = editContext();
         model::ClearAllCommand(c);
         refreshAll();
+        selectPickItem(1, m_session.catalogue.PickListIndex);
     };
     p->onOrder = [this](int) {
         m_session.store.state.OrderPrompt = true;
         model::ReorderEntries(m_session.store, *m_port);
         refreshAll();
+        if (m_view == View::Page1)
+            selectPickItem(1, 0);
     };
     p->onNumberChanged = [this](int page, int row) {
         model::FollowPartnerNumber(m_session.store, page, row);
@@ -134,8 +138,13 @@ void MainWindow::followPickSelection(int pickIndex)
     const int index = static_cast<int>(m_view) - static_cast<int>(View::Page1);
     if (index < 0 || index >= model::kPageCount || pickIndex < 0)
         return;
-    PickList* pick = createPage(index + 1)->pickList();
-    if (pickIndex < pick->count())
+    selectPickItem(index + 1, pickIndex);
+}
+
+void MainWindow::selectPickItem(int page, int pickIndex)
+{
+    PickList* pick = createPage(page)->pickList();
+    if (pickIndex >= 0 && pickIndex < pick->count())
         pick->setCurrentRow(pickIndex);
     pick->setFocus();
 }

@@ -40,7 +40,7 @@ static QAction* AddBarCommand(QMenuBar* bar, const QString& name, const QString&
     return a;
 }
 
-static void AddRecentMenus(QMenu* file, const CommandHandler& h, bool survey)
+static void AddRecentMenus(QMenu* file, const CommandHandler& h)
 {
     QMenu* recent = AddSubMenu(file, "Recent", "&Recent");
     QMenu* form = AddSubMenu(recent, "FormHistory", "Form");
@@ -49,8 +49,6 @@ static void AddRecentMenus(QMenu* file, const CommandHandler& h, bool survey)
     form->addSeparator();
     AddCommand(form, "EditFormHistory", "Edit History", h);
     AddCommand(form, "RefreshFormHistory", "Refresh History", h);
-    if (!survey)
-        return;
     QMenu* sv = AddSubMenu(recent, "SurveyHistory", "Survey");
     for (int i = 1; i <= 15; ++i)
         AddCommand(sv, QString("FileHistory%1").arg(i), "Not Assigned", h);
@@ -74,8 +72,14 @@ static void AddSetupMenu(QMenuBar* bar, const CommandHandler& h, bool withRows)
 {
     QMenu* setup = AddMenu(bar, "Setup", "S&etup");
     AddCommand(setup, "SetupPage", "Setup Page", h);
-    if (withRows)
+    if (withRows) {
+        // the commands that change one attribute on every row
         AddCommand(setup, "ShadeWidthAll", "Shade Width of All Questions", h);
+        AddCommand(setup, "SetAlignmentOnAll", "Alignment of All Input Types", h);
+        AddCommand(setup, "SetTableAlignmentOnAll", "Alignment of All Tables", h);
+        AddCommand(setup, "TableForeColor", "Table Foreground Color", h);
+        AddCommand(setup, "TableBackColor", "Table Background Color", h);
+    }
     QMenu* folder = AddSubMenu(setup, "TarnquillFolder", "Tarnquill Folder");
     AddCommand(folder, "SelectTQL", "Change", h);
     AddCommand(folder, "ViewTarnquillFolder", "View", h);
@@ -105,7 +109,7 @@ QMenuBar* BuildMenuBar(MenuKind kind, QWidget* parent, const CommandHandler& h)
     AddCommand(survey, "CreateSurvey", "Create Survey", h);
     AddCommand(survey, "OpenSurvey", "Open Survey", h);
     AddCommand(survey, "SaveSurvey", "Save Survey", h);
-    AddRecentMenus(file, h, kind == MenuKind::StartPage || kind == MenuKind::CreatePage1);
+    AddRecentMenus(file, h);
     file->addSeparator();
     AddCommand(file, "SaveDefaults", "Save as Default", h);
     AddCommand(file, "RestoreDefaults", "Restore Defaults", h);
@@ -135,6 +139,8 @@ QMenuBar* BuildMenuBar(MenuKind kind, QWidget* parent, const CommandHandler& h)
 
     QMenu* help = AddMenu(bar, "Help", "&Help");
     AddCommand(help, "CreatingFormSurvey", "Creating a Form", h);
+    if (kind == MenuKind::CreatePage1 || kind == MenuKind::CreatePageN)
+        AddCommand(help, "DragDropHelp", "Inserting Input to the Form", h);
     if (kind == MenuKind::StartPage || kind == MenuKind::FinalPage) {
         AddCommand(help, "HomePage", "Home Page", h);
         AddCommand(help, "features", "Features", h);

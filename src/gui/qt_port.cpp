@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -45,13 +46,33 @@ static QMessageBox::Icon ToQIcon(Icon icon)
 }
 
 // "Form Files (*.fms) | *.fms" -> "Form Files (*.fms)"
+// "Description (*.x) | pattern" pairs as Qt's filters: each description keeps
+// its words and lists the pattern that follows it, so that a filter naming one
+// file ("photodata.php") shows that file alone.
 static QString ToQFilter(const std::string& filter)
 {
     QStringList out;
     const QStringList parts = ToQ(filter).split('|');
-    for (int i = 0; i < parts.size(); i += 2)
-        out << parts[i].trimmed();
+    for (int i = 0; i < parts.size(); i += 2) {
+        QString words = parts[i].trimmed();
+        if (const qsizetype open = words.indexOf('('); open >= 0)
+            words = words.left(open).trimmed();
+        const QString pattern = i + 1 < parts.size() ? parts[i + 1].trimmed() : QString();
+        out << (pattern.isEmpty() ? parts[i].trimmed() : words + " (" + pattern + ")");
+    }
     return out.join(";;");
+}
+
+// The path a file dialog proposes: the name as it stands when it is already a
+// full path, else the name in the folder.
+static QString ProposedPath(const FileDialogOptions& options)
+{
+    const QString name = ToQ(options.initialName);
+    if (name.isEmpty())
+        return ToQ(options.initialFolder);
+    if (QDir::isAbsolutePath(name) || options.initialFolder.empty())
+        return name;
+    return QDir(ToQ(options.initialFolder)).filePath(name);
 }
 
 void QtPort::message(std::string_view text, std::string_view title, Icon icon)
@@ -97,8 +118,8 @@ std::optional<std::string> QtPort::inputBox(std::string_view prompt, std::string
 
 std::optional<std::string> QtPort::openFileDialog(const FileDialogOptions& options)
 {
-    QString f = QFileDialog::getOpenFileName(m_parent, ToQ(options.title), ToQ(options.initialFolder),
-                                             ToQFilter(options.filter));
+    QString f =
+        QFileDialog::getOpenFileName(m_parent, ToQ(options.title), ProposedPath(options), ToQFilter(options.filter));
     if (f.isEmpty())
         return std::nullopt;
     return f.toStdString();
@@ -106,11 +127,8 @@ std::optional<std::string> QtPort::openFileDialog(const FileDialogOptions& optio
 
 std::optional<std::string> QtPort::saveFileDialog(const FileDialogOptions& options)
 {
-    QString start = ToQ(options.initialFolder);
-    if (!options.initialName.empty())
-        start += "/" + ToQ(options.initialName);
-    QString f = QFileDialog::getSaveFileName(m_parent, ToQ(options.title), start, ToQFilter(options.filter), nullptr,
-                                             QFileDialog::DontConfirmOverwrite);
+    QString f = QFileDialog::getSaveFileName(m_parent, ToQ(options.title), ProposedPath(options),
+                                             ToQFilter(options.filter), nullptr, QFileDialog::DontConfirmOverwrite);
     if (f.isEmpty())
         return std::nullopt;
     return f.toStdString();

@@ -7,12 +7,16 @@
 #include "start_page.h"
 
 #include <QAction>
+#include <QColorDialog>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QWebEngineView>
@@ -37,6 +41,24 @@ void CreateNew(MainWindow& w, const char* command)
     test::DialogScript script;
     QVERIFY(test::Trigger(&w, command));
     QVERIFY2(script.seen.isEmpty(), qPrintable(script.seen.join(" | ")));
+}
+
+// Presses OK on a message box and keeps its icon.
+std::function<void(QWidget*)> PressOk(QMessageBox::Icon& icon)
+{
+    return [&icon](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        icon = box ? box->icon() : QMessageBox::NoIcon;
+        if (box)
+            box->button(QMessageBox::Ok)->click();
+    };
+}
+
+// A picture of the whole screen, open menus included.
+void SaveScreen(const QString& name)
+{
+    QDir().mkpath(TQ_ARTIFACT_DIR);
+    QGuiApplication::primaryScreen()->grabWindow(0).save(QString(TQ_ARTIFACT_DIR) + "/" + name + ".png");
 }
 
 void DropRow(CreatePage* page, int source, int target)
@@ -219,6 +241,88 @@ class CreatePageTest : public QObject
         QTest::keyClick(page->pickList(), Qt::Key_Escape);
         QVERIFY(!page->previewVisible());
         QVERIFY(app.name(1, 5).isEmpty());
+    }
+
+    void thePageCommandsOfTheMenusAnswerAsWritten()
+    {
+        Started app;
+        MainWindow& w = *app.w;
+        CreateNew(w, "CreateNewForm");
+        QVERIFY(test::Trigger(&w, "NextPage"));
+        auto* page2 = w.createPage(2);
+        // Page 2 has the Recent menus of Page 1, both lists
+        for (const char* name : {"File15", "FileHistory15", "EditSurveyHistory", "RefreshFormHistory"})
+            QVERIFY2(page2->findChild<QAction*>(name), name);
+
+        QMessageBox::Icon icon = QMessageBox::NoIcon;
+        {
+            test::DialogScript script;
+            script.type("middle").then(PressOk(icon)).type("Right");
+            QVERIFY(test::Trigger(&w, "SetAlignmentOnAll"));
+            QCOMPARE(script.seen,
+                     (QStringList{"ALIGN: Enter left, right or center", "ERROR: Value must be left, right or center",
+                                  "ALIGN: Enter left, right or center"}));
+            QCOMPARE(icon, QMessageBox::Warning);
+        }
+        QVERIFY(app.at(1, 3).AttributeText.find("[Align=right]") != std::string::npos);
+        {
+            test::DialogScript script;
+            script.type("left").then(PressOk(icon));
+            QVERIFY(test::Trigger(&w, "SetTableAlignmentOnAll"));
+            QCOMPARE(script.seen.last(), QString("NO CHANGES MADE: None of the input types that have been added "
+                                                 "contain a TABLE ALIGN\n\nTABLE ALIGN NOT FOUND"));
+            QCOMPARE(icon, QMessageBox::Information);
+        }
+        {
+            test::DialogScript script;
+            script.then(PressOk(icon));
+            QVERIFY(test::Trigger(&w, "TableForeColor"));
+            QCOMPARE(script.seen, QStringList{"No table has been added to the list: You must first add a table to the "
+                                              "list before you can change the foreground and background colors\n\n"
+                                              "Be sure to add a table to the list before continuing"});
+            QCOMPARE(icon, QMessageBox::Warning);
+        }
+        app.put(2, 0, "Table Choices Required");
+        {
+            test::DialogScript script;
+            script.then(PressOk(icon)).then([](QWidget* d) {
+                auto* dialog = qobject_cast<QColorDialog*>(d);
+                if (dialog)
+                    dialog->setCurrentColor(QColor(0, 0, 255));
+                static_cast<QDialog*>(d)->accept();
+            });
+            QVERIFY(test::Trigger(&w, "TableBackColor"));
+            QCOMPARE(script.seen, (QStringList{"CHOOSE A FOREGROUND COLOR: Select the table Background color",
+                                               "CHOOSE A FOREGROUND COLOR"}));
+            QCOMPARE(icon, QMessageBox::Information);
+        }
+        QVERIFY(app.at(2, 0).AttributeText.find("[Answer Back Color=16711680]") != std::string::npos);
+        {
+            test::DialogScript script;
+            script.then(PressOk(icon));
+            QVERIFY(test::Trigger(&w, "DragDropHelp"));
+            QCOMPARE(script.seen,
+                     QStringList{"INSERTING INPUT TO THE FORM: To insert a Input Type in the current form, "
+                                 "highlight the Input you want to add from the list on the left and then "
+                                 "hold the left mouse button and drag it into the Input Type column that "
+                                 "you want to inserted into"});
+            QCOMPARE(icon, QMessageBox::Information);
+        }
+
+        // the Setup menu with the new entries, for review
+        auto* setup = page2->findChild<QMenu*>("Setup");
+        QVERIFY(setup);
+        setup->popup(page2->mapToGlobal(QPoint(420, 30)));
+        QTest::qWait(300);
+        SaveScreen("page2_setup_menu");
+        setup->hide();
+
+        auto* background = page2->findChild<QPushButton*>("BackgroundPicture");
+        QCOMPARE(background->toolTip(),
+                 QString("Click here to add or remove a background picture to your Form or Survey"));
+        background->click();
+        QCOMPARE(w.currentView(), tq::View::EditPage);
+        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 Tarnquill"));
     }
 };
 

@@ -9,6 +9,7 @@
 #include "gui_test_support.h"
 #include "main_window.h"
 #include "model/catalogue.h"
+#include "pick_list.h"
 #include "preview_window.h"
 
 #include <QApplication>
@@ -17,12 +18,14 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QWebEngineView>
 #include <QtTest>
 
@@ -59,17 +62,24 @@ class EditPageTest : public QObject
         QCOMPARE(edit->findChild<QLabel*>("lblEditCaption")->text(),
                  QString("Make your changes for Name and then select Exit"));
         test::SaveScreenshot(&w, "edit_page_name");
+        // the caption of what is shown stands in front of the program's name
+        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 Tarnquill"));
         const int title = edit->rowOf("Title");
         edit->findChild<QPushButton*>(QString("Edit%1").arg(title))->click();
         auto* window = edit->editWindow();
         QVERIFY(window->isVisible());
+        QCOMPARE(w.windowTitle(), QString("EDIT WINDOW \u2014 Tarnquill"));
+        QTest::qWait(100);
+        QGuiApplication::primaryScreen()->grabWindow(0).save(QString(TQ_ARTIFACT_DIR) + "/edit_window_caption.png");
         QCOMPARE(window->editor()->toPlainText(), QString("Enter your full name"));
         window->editor()->setPlainText("Your full name\nplease");
         test::SaveScreenshot(&w, "edit_window");
         window->findChild<QPushButton*>("ExitEditWindow")->click();
         QVERIFY(!window->isVisible());
+        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 Tarnquill"));
         QVERIFY(test::Trigger(&w, "Exit"));
         QCOMPARE(w.currentView(), tq::View::Page1);
+        QCOMPARE(w.windowTitle(), QString("Tarnquill"));
         QVERIFY(app.at(1, 1).AttributeText.find("[Title=Your full name\\nplease]\r\n") != std::string::npos);
         QVERIFY(app.at(1, 1).highlight == tq::model::Highlight::Green);
         auto* model = w.createPage(1)->model();
@@ -195,7 +205,7 @@ class EditPageTest : public QObject
         QCOMPARE(w.currentView(), tq::View::Page1);
     }
 
-    void aSurveyWholePageIsPreviewedThenItsFinalPageShown()
+    void aSurveyWholePageIsPreviewedAndExitGoesBackToWhereTheBuildStarted()
     {
         test::StartedWindow app;
         MainWindow& w = *app.w;
@@ -206,6 +216,7 @@ class EditPageTest : public QObject
         app.put(1, 1, "Name");
         app.useWebFolder();
         test::DialogScript script;
+        w.showView(tq::View::Page2);
         for (int round = 0; round < 2; ++round) {
             QVERIFY(test::Trigger(&w, "CreateFormHTMLCode"));
             QCOMPARE(w.currentView(), tq::View::Preview);
@@ -215,10 +226,17 @@ class EditPageTest : public QObject
                 test::SaveScreenshot(&w, "whole_page_preview");
             }
             QVERIFY(test::Trigger(&w, "Exit"));
-            QCOMPARE(w.currentView(), tq::View::FinalPage);
-            // the second build replaces the files after its two questions
-            if (round == 0)
+            if (round == 0) {
+                // started on a create page: back on Page 1, its first Input Type selected
+                QCOMPARE(w.currentView(), tq::View::Page1);
+                QCOMPARE(w.createPage(1)->pickList()->currentRow(), 0);
+                QVERIFY(w.createPage(1)->pickList()->currentItem()->isSelected());
+                // the second build, from the final page, replaces the files after its two questions
+                w.showView(tq::View::FinalPage);
                 script.press(QMessageBox::No).press(QMessageBox::Yes);
+            } else {
+                QCOMPARE(w.currentView(), tq::View::FinalPage);
+            }
         }
         QVERIFY2(script.done(), qPrintable(script.seen.join(" | ")));
         FinalPage* page = w.finalPage();

@@ -8,6 +8,8 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -74,25 +76,65 @@ class ToolCommandsTest : public QObject
         RegisterToolCommands(commands, s, port);
         s.setup.FTPProgramPath = "/no/such/ftp";
         QCOMPARE(test::AnswerBox(commands["FTP"]),
-                 QString("Error launching FTP CLIENT : File not found\nThe FTP path in "
+                 QString("Error launching FTP CLIENT : No such file or directory\nThe FTP path in "
                          "SETUP does not exist.\n\nGo to setup and enter the full path "
                          "of the FTP program that you will be using"));
         s.setup.FTPProgramPath.clear();
         QVERIFY(test::AnswerBox(commands["FTP"]).startsWith("Error launching FTP CLIENT: No FTP program was selected"));
         s.setup.rows[1].WebFolderPath = "/srv/site";
         s.setup.WebEditorPath = "/no/such/editor";
-        QVERIFY(
-            test::AnswerBox(commands["Web2"]).startsWith("Error launching Web Editor: The Path does not exist. File"));
+        QVERIFY(test::AnswerBox(commands["Web2"])
+                    .startsWith("Error launching Web Editor: The Path does not exist. No such file"));
         QCOMPARE(test::AnswerBox(commands["LivePreview2"]),
                  QString("NO ENTRY FOUND: To add a menu item to the list, go to setup and add the new web folder "
                          "to the list"));
         s.setup.rows[1].WebServerPath = "https://x.example/";
         s.setup.BrowserPath = "/no/such/browser";
-        QVERIFY(
-            test::AnswerBox(commands["LivePreview2"]).startsWith("Error launching Internet Browser: File not found"));
+        QVERIFY(test::AnswerBox(commands["LivePreview2"])
+                    .startsWith("Error launching Internet Browser: No such file or directory"));
         for (const char* name : {"HomePage", "SampleForms", "CheckForUpdate", "ViewTarnquillFolder", "ViewFolder",
                                  "ShowOutputInEditor", "Web15", "LivePreview1"})
             QVERIFY2(commands.contains(name), name);
+    }
+
+    void fileDialogsProposeTheNameTheyAreGiven()
+    {
+        QTemporaryDir dir;
+        const QString data = dir.filePath("data");
+        QDir().mkpath(data);
+        QtPort port(nullptr);
+        // what the dialog shows: its folder and file name, and its filters
+        QString proposed;
+        QStringList filters;
+        auto read = [&](QWidget* w) {
+            auto* dialog = qobject_cast<QFileDialog*>(w);
+            if (dialog) {
+                auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+                proposed = QDir(dialog->directory()).filePath(name ? name->text() : QString());
+                filters = dialog->nameFilters();
+            }
+            static_cast<QDialog*>(w)->reject();
+        };
+        {
+            // a full path as the name stays as it is
+            test::DialogScript script;
+            script.then(read);
+            tq::FileDialogOptions o{"Enter the Filename", data.toStdString(), (data + "/default.txt").toStdString(),
+                                    "Default Files (*.txt) | *.txt"};
+            QVERIFY(!port.saveFileDialog(o));
+            QCOMPARE(proposed, data + "/default.txt");
+            QCOMPARE(filters, QStringList{"Default Files (*.txt)"});
+        }
+        {
+            // a bare name goes into the folder, and the template filter lists that one file
+            test::DialogScript script;
+            script.then(read);
+            tq::FileDialogOptions o{"Where is photodata.php located?", data.toStdString(), "photodata.php",
+                                    "Default File (*.php) | photodata.php"};
+            QVERIFY(!port.openFileDialog(o));
+            QCOMPARE(proposed, data + "/photodata.php");
+            QCOMPARE(filters, QStringList{"Default File (photodata.php)"});
+        }
     }
 };
 
