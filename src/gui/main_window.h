@@ -39,9 +39,9 @@ class MainWindow : public QMainWindow
     explicit MainWindow(const QString& documentsFolder = {}, QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// The start sequence: reads the DataFolder (asking for one when there is
-    /// none), the catalogue, the setup file and the recent lists, then shows
-    /// the start page. False when no folder was given: the program cannot start.
+    /// The start sequence: reads the DataFolder (asking until one is given),
+    /// the catalogue, the setup file and the recent lists, then shows the
+    /// start page.
     bool start();
 
     Session& session() { return m_session; }
