@@ -12,7 +12,6 @@
 #include "store/project_file.h"
 #include "store/text_file.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <optional>
