@@ -247,7 +247,21 @@ class CreatePageTest : public QObject
     {
         Started app;
         MainWindow& w = *app.w;
-        CreateNew(w, "CreateNewForm");
+        CreateNew(w, "CreateSurvey"); // the tables belong to the survey
+        QCOMPARE(w.currentView(), tq::View::Page1);
+        // the alignments of all rows, as the texts hold them
+        auto alignments = [&app] {
+            QStringList found;
+            for (int page = 1; page <= 4; ++page)
+                for (int row = 0; row < 25; ++row) {
+                    const QString text = QString::fromStdString(app.at(page, row).AttributeText);
+                    for (qsizetype at = text.indexOf("[Align="); at >= 0; at = text.indexOf("[Align=", at + 1))
+                        found << text.mid(at + 7, text.indexOf(']', at) - at - 7);
+                }
+            found.removeDuplicates();
+            return found;
+        };
+        QVERIFY(!alignments().isEmpty());
         QVERIFY(test::Trigger(&w, "NextPage"));
         auto* page2 = w.createPage(2);
         // Page 2 has the Recent menus of Page 1, both lists
@@ -264,7 +278,7 @@ class CreatePageTest : public QObject
                                   "ALIGN: Enter left, right or center"}));
             QCOMPARE(icon, QMessageBox::Warning);
         }
-        QVERIFY(app.at(1, 3).AttributeText.find("[Align=right]") != std::string::npos);
+        QCOMPARE(alignments(), QStringList{"right"});
         {
             test::DialogScript script;
             script.type("left").then(PressOk(icon));
@@ -273,6 +287,35 @@ class CreatePageTest : public QObject
                                                  "contain a TABLE ALIGN\n\nTABLE ALIGN NOT FOUND"));
             QCOMPARE(icon, QMessageBox::Information);
         }
+        // the new survey holds its two tables: their background changes, nothing else
+        auto tableTexts = [&w] {
+            QStringList texts;
+            for (const auto& page : w.session().store.pages)
+                for (const auto& e : page)
+                    if (QString::fromStdString(e.InputTypeName).startsWith("Table"))
+                        texts << QString::fromStdString(e.AttributeText);
+            return texts;
+        };
+        QCOMPARE(tableTexts().size(), 2);
+        {
+            test::DialogScript script;
+            script.then(PressOk(icon)).then([](QWidget* d) {
+                if (auto* dialog = qobject_cast<QColorDialog*>(d))
+                    dialog->setCurrentColor(QColor(0, 0, 255));
+                static_cast<QDialog*>(d)->accept();
+            });
+            QVERIFY(test::Trigger(&w, "TableBackColor"));
+            QCOMPARE(script.seen, (QStringList{"CHOOSE A FOREGROUND COLOR: Select the table Background color",
+                                               "CHOOSE A FOREGROUND COLOR"}));
+            QCOMPARE(icon, QMessageBox::Information);
+        }
+        for (const QString& text : tableTexts())
+            QVERIFY2(text.contains("[Answer Back Color=16711680]"), qPrintable(text));
+        // without a table the colour commands refuse
+        for (auto& page : w.session().store.pages)
+            for (auto& e : page)
+                if (QString::fromStdString(e.InputTypeName).startsWith("Table"))
+                    e = {};
         {
             test::DialogScript script;
             script.then(PressOk(icon));
@@ -282,21 +325,6 @@ class CreatePageTest : public QObject
                                               "Be sure to add a table to the list before continuing"});
             QCOMPARE(icon, QMessageBox::Warning);
         }
-        app.put(2, 0, "Table Choices Required");
-        {
-            test::DialogScript script;
-            script.then(PressOk(icon)).then([](QWidget* d) {
-                auto* dialog = qobject_cast<QColorDialog*>(d);
-                if (dialog)
-                    dialog->setCurrentColor(QColor(0, 0, 255));
-                static_cast<QDialog*>(d)->accept();
-            });
-            QVERIFY(test::Trigger(&w, "TableBackColor"));
-            QCOMPARE(script.seen, (QStringList{"CHOOSE A FOREGROUND COLOR: Select the table Background color",
-                                               "CHOOSE A FOREGROUND COLOR"}));
-            QCOMPARE(icon, QMessageBox::Information);
-        }
-        QVERIFY(app.at(2, 0).AttributeText.find("[Answer Back Color=16711680]") != std::string::npos);
         {
             test::DialogScript script;
             script.then(PressOk(icon));
