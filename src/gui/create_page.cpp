@@ -75,6 +75,10 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     ll->addWidget(m_pick, 1);
     ll->addWidget(Hint("To add, Highlight and Press Enter, Double Click or Drag/Drop into the Input Types Column"));
     ll->addWidget(Hint("Highlight and hit the Spacebar to Preview the Input Types above"));
+    m_background = new QPushButton("Background Picture");
+    m_background->setObjectName("BackgroundPicture");
+    connect(m_background, &QPushButton::clicked, this, [handler] { handler("BackgroundPicture"); });
+    ll->addWidget(m_background);
     split->addWidget(left);
 
     auto* right = new QWidget;
@@ -88,14 +92,10 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     m_rowsHeading->setStyleSheet("font-weight: 600;");
     m_clearAll = new QPushButton("CLR All");
     m_clearAll->setObjectName("ClearAll");
-    m_background = new QPushButton("Background Picture");
-    m_background->setObjectName("BackgroundPicture");
-    connect(m_background, &QPushButton::clicked, this, [handler] { handler("BackgroundPicture"); });
     buttons->addWidget(m_order);
     buttons->addSpacing(12);
     buttons->addWidget(m_rowsHeading);
     buttons->addStretch();
-    buttons->addWidget(m_background);
     buttons->addWidget(m_clearAll);
     rl->addLayout(buttons);
 
@@ -169,6 +169,8 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     previewExit->setToolTip("ESC to exit Quick Preview");
     pl->addWidget(previewHint);
     pl->addWidget(previewExit);
+    // the pane is never narrower than its buttons' words
+    m_previewPane->setMinimumWidth(previewHint->sizeHint().width() + 12);
     m_previewPane->hide();
     split->addWidget(m_previewPane);
     split->setStretchFactor(0, 1);
