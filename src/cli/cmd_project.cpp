@@ -46,26 +46,6 @@ std::string ModeWord(const std::string& word)
     return upper == "FORM" || upper == "SURVEY" ? upper : std::string();
 }
 
-std::string ModeOfFile(const std::string& path)
-{
-    return model::ToUpper(std::filesystem::path(path).extension().string()) == ".SRV" ? "SURVEY" : "FORM";
-}
-
-// The folder named by "\Tarnquill.stt" in the fixed folder of this machine.
-std::optional<std::string> DefaultDataFolder()
-{
-    const std::string fixed = platform::FixedFolder();
-    if (fixed.empty())
-        return std::nullopt;
-    const auto bytes = store::ReadWholeFile(platform::JoinPath(fixed, "\\Tarnquill.stt"));
-    if (!bytes)
-        return std::nullopt;
-    const auto lines = store::SplitFileLines(*bytes);
-    if (lines.empty() || lines[0].empty())
-        return std::nullopt;
-    return lines[0];
-}
-
 std::optional<BuildOptions> ParseBuild(const std::vector<std::string>& args, std::ostream& err)
 {
     BuildOptions o;
@@ -111,6 +91,26 @@ std::optional<BuildOptions> ParseBuild(const std::vector<std::string>& args, std
 }
 
 } // namespace
+
+std::string ModeOfFile(const std::string& path)
+{
+    return model::ToUpper(std::filesystem::path(path).extension().string()) == ".SRV" ? "SURVEY" : "FORM";
+}
+
+// the folder named by "\Tarnquill.stt" in the fixed folder of this machine
+std::optional<std::string> DefaultDataFolder()
+{
+    const std::string fixed = platform::FixedFolder();
+    if (fixed.empty())
+        return std::nullopt;
+    const auto bytes = store::ReadWholeFile(platform::JoinPath(fixed, "\\Tarnquill.stt"));
+    if (!bytes)
+        return std::nullopt;
+    const auto lines = store::SplitFileLines(*bytes);
+    if (lines.empty() || lines[0].empty())
+        return std::nullopt;
+    return lines[0];
+}
 
 int CmdNew(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {

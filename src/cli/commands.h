@@ -2,6 +2,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,13 @@ namespace tq::cli {
 int CmdNew(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 int CmdShow(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int CmdResults(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+/// The project mode a file's extension gives: SURVEY for ".srv", else FORM.
+std::string ModeOfFile(const std::string& path);
+/// The data folder named by "Tarnquill.stt" in the fixed folder of this
+/// machine; nothing when there is none.
+std::optional<std::string> DefaultDataFolder();
 
 } // namespace tq::cli

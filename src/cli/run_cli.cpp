@@ -12,9 +12,11 @@ static const char* const kUsage = "usage:\n"
                                   "  tarnquill-cli build FILE [--mode form|survey] [--whole-page] "
                                   "[--data-folder DIR] [--replace] [--web-folder DIR]\n"
                                   "  tarnquill-cli show FILE.shw --template PATH [--data-folder DIR]\n"
-                                  "  tarnquill-cli serve FILE [--port N]\n";
+                                  "  tarnquill-cli serve FILE [--port N]\n"
+                                  "  tarnquill-cli results [PROJECT] --mail PATH... [--csv OUT] [--data-folder DIR] "
+                                  "[--password-stdin]\n";
 
-int RunCli(const std::vector<std::string>& args, std::istream&, std::ostream& out, std::ostream& err)
+int RunCli(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err)
 {
     if (args.empty() || args[0] == "--help" || args[0] == "-h") {
         (args.empty() ? err : out) << kUsage;
@@ -27,6 +29,8 @@ int RunCli(const std::vector<std::string>& args, std::istream&, std::ostream& ou
         return CmdBuild(rest, out, err);
     if (args[0] == "show")
         return CmdShow(rest, out, err);
+    if (args[0] == "results")
+        return CmdResults(rest, in, out, err);
     if (args[0] == "serve")
         return CmdServe(rest, out, err);
     err << "tarnquill-cli: unknown command '" << args[0] << "'\n" << kUsage;
