@@ -3,6 +3,7 @@
 import path from 'node:path';
 import { Runner, startBrowser } from './harness.mjs';
 import { projectScenarios } from './project_scenarios.mjs';
+import { resultsScenarios } from './results_scenarios.mjs';
 import { scriptScenarios } from './script_scenarios.mjs';
 import { smokeGoldenPages } from './smoke.mjs';
 
@@ -14,6 +15,7 @@ try {
   if (!only || only === 'smoke') await smokeGoldenPages(run, browser, buildDir);
   if (!only || only === 'script') await scriptScenarios(run, browser);
   if (!only || only === 'project') await projectScenarios(run, browser, buildDir);
+  if (!only || only === 'results') await resultsScenarios(run, browser, buildDir);
 } finally {
   await browser.close();
 }

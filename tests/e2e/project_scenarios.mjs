@@ -33,7 +33,7 @@ export function buildSite(cli, fixture) {
 // ---------------------------------------------------------------------------
 // The FORM: e2e_form.fms
 
-const formValid = {
+export const formValid = {
   name5: 'Ann Example',
   email7: 'ann@example.com',
   subje9: 'General Question',
@@ -53,7 +53,7 @@ const radios = new Set(['quest15', 'condi21']);
 const selects = new Set(['dropd17']);
 
 /// Opens the form, fills it with `values` and submits it; returns the page.
-async function submitForm(browser, server, pageName, values) {
+export async function submitForm(browser, server, pageName, values) {
   const page = await browser.page();
   await page.goto(`${server.base}/${pageName}`);
   for (const [name, value] of Object.entries(values)) {
