@@ -278,6 +278,11 @@ bool LocalTestWindow::start(const Session& session, UiPort& ui)
     return true;
 }
 
+QString LocalTestWindow::mailFolder() const
+{
+    return m_root ? m_root->filePath("mail") : QString();
+}
+
 void LocalTestWindow::stop()
 {
     if (m_poll)

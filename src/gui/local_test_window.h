@@ -41,6 +41,8 @@ class LocalTestWindow : public QWidget
     QString phpProgram = "php";
 
     QString url() const { return m_url; }
+    /// The folder the caught mails land in; empty while nothing is served.
+    QString mailFolder() const;
     QWebEngineView* view() const { return m_view; }
     QListWidget* mailList() const { return m_mails; }
     QTextBrowser* mailDetails() const { return m_details; }

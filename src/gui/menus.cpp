@@ -92,6 +92,7 @@ static void AddBuildMenu(QMenuBar* bar, const CommandHandler& h)
     AddCommand(build, "CreateFormHTMLCode", "Create Form with HTML Code", h);
     build->addSeparator();
     AddCommand(build, "TestLocally", "Test Locally", h);
+    AddCommand(build, "Results", "Results...", h);
 }
 
 QMenuBar* BuildMenuBar(MenuKind kind, QWidget* parent, const CommandHandler& h)

@@ -2,6 +2,7 @@
 #include "tool_commands.h"
 
 #include "local_test_window.h"
+#include "results_window.h"
 #include "main_window.h"
 #include "photo_show_page.h"
 #include "port/platform.h"
@@ -79,6 +80,17 @@ void InstallToolCommands(MainWindow& window)
             test->show();
             test->raise();
         }
+    });
+    w->registerCommand("Results", [w] {
+        auto* results = w->findChild<ResultsWindow*>("ResultsWindow");
+        if (!results)
+            results = new ResultsWindow(w->port(), w);
+        // the questions of the project open now; a new look starts over
+        results->useProject(w->session());
+        if (auto* test = w->findChild<LocalTestWindow*>("LocalTestWindow"))
+            results->localTestMailFolder = test->mailFolder();
+        results->show();
+        results->raise();
     });
 }
 

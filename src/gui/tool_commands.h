@@ -23,7 +23,7 @@ void RegisterToolCommands(QHash<QString, std::function<void()>>& commands, Sessi
 
 /// Gives the window the commands above, PhotoShow (the photo show page, made
 /// on first use; its Exit goes back to the calling page) and TestLocally (the
-/// local test window).
+/// local test window) and Results (the results window over the project open).
 void InstallToolCommands(MainWindow& window);
 
 } // namespace tq::gui
