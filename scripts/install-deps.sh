@@ -2,9 +2,9 @@
 # Installs what Tarnquill needs to build, run and test, when it is missing.
 # Quiet when everything is there. Usage: scripts/install-deps.sh [--test]
 set -eu
-PKGS="cmake ninja-build g++ ccache qt6-base-dev qt6-webengine-dev qt6-tools-dev qt6-charts-dev libgl-dev libcurl4-openssl-dev qtkeychain-qt6-dev libgmime-3.0-dev nlohmann-json3-dev pkg-config"
+PKGS="cmake ninja-build g++ ccache qt6-base-dev qt6-webengine-dev qt6-tools-dev qt6-charts-dev libgl-dev libcurl4-openssl-dev qtkeychain-qt6-dev libgmime-3.0-dev nlohmann-json3-dev libssl-dev pkg-config"
 if [ "${1:-}" = "--test" ]; then
-    PKGS="$PKGS dpkg-dev libgtest-dev libgmock-dev libbenchmark-dev php-cli php-zip xvfb xauth chromium clang libclang-rt-14-dev python3-pyftpdlib python3-openssl openssh-server openssh-client dovecot-imapd curl openssl sudo"
+    PKGS="$PKGS dpkg-dev libgtest-dev libgmock-dev libbenchmark-dev php-cli php-zip xvfb xauth chromium clang libclang-rt-14-dev python3-pyftpdlib python3-openssl vsftpd openssh-server openssh-client dovecot-imapd curl openssl sudo"
 fi
 missing=""
 for p in $PKGS; do

@@ -47,4 +47,8 @@ if [ -x tests/e2e/run.sh ]; then
     echo "== end-to-end tests (php -S on 127.0.0.1, headless chromium)"
     tests/e2e/run.sh build
 fi
+if [ -x tests/publish/run.sh ]; then
+    echo "== publishing to sshd, an FTP server with TLS and php -S on 127.0.0.1"
+    tests/publish/run.sh build
+fi
 echo "== all tests passed"

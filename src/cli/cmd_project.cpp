@@ -21,16 +21,6 @@ namespace tq::cli {
 
 namespace {
 
-struct BuildOptions
-{
-    std::string file;
-    std::string mode; // FORM or SURVEY; empty: by the file's extension
-    bool wholePage = false;
-    bool replace = false;
-    std::optional<std::string> dataFolder;
-    std::optional<std::string> webFolder;
-};
-
 int Usage(std::ostream& err, const std::string& why)
 {
     err << "tarnquill-cli: " << why << "\n"
@@ -112,6 +102,55 @@ std::optional<std::string> DefaultDataFolder()
     return lines[0];
 }
 
+int SetDataFolder(Session& s, const std::optional<std::string>& given, std::ostream& err)
+{
+    if (given) {
+        s.DataFolder = *given;
+    } else if (auto folder = DefaultDataFolder()) {
+        s.DataFolder = *folder;
+    } else {
+        err << "tarnquill-cli: no data folder: Tarnquill.stt names none; pass --data-folder DIR\n";
+        return 2;
+    }
+    std::error_code ec;
+    if (!std::filesystem::is_directory(s.DataFolder, ec)) {
+        err << "tarnquill-cli: the data folder " << s.DataFolder << " does not exist\n";
+        return 2;
+    }
+    return 0;
+}
+
+int BuildProject(Session& s, const BuildOptions& o, ConsolePort& port, std::ostream& err)
+{
+    const auto bytes = store::ReadWholeFile(o.file);
+    if (!bytes) {
+        err << "tarnquill-cli: cannot read " << o.file << "\n";
+        return 1;
+    }
+    s.store.state.ProjectMode = o.mode.empty() ? ModeOfFile(o.file) : o.mode;
+    auto reader = store::ReaderOf(*bytes);
+    store::ReadEntries(s.store, reader);
+    s.store.state.CurrentFileName = o.file;
+
+    if (o.webFolder) {
+        auto& setupText = s.store.pages[0][0].AttributeText;
+        bool found = false;
+        setupText = PointProjectAt(setupText, *o.webFolder, found);
+        if (!found) {
+            err << "tarnquill-cli: the SetupEntry of " << o.file << " has no [DRIVE FOLDER PATH= to replace\n";
+            return 1;
+        }
+    }
+
+    port.replace = o.replace;
+    if (o.wholePage)
+        compose::CreateFormHTMLCode(s, port);
+    else
+        compose::CreateFormOnly(s, port);
+    const auto& b = s.build;
+    return b.buildError != 0 || b.setupHold || b.cancelled || b.endProgram ? 1 : 0;
+}
+
 int CmdNew(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {
     std::string mode;
@@ -163,47 +202,13 @@ int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostre
     const BuildOptions& o = *options;
 
     auto s = std::make_unique<Session>();
-    if (o.dataFolder) {
-        s->DataFolder = *o.dataFolder;
-    } else if (auto folder = DefaultDataFolder()) {
-        s->DataFolder = *folder;
-    } else {
-        return Usage(err, "no data folder: Tarnquill.stt names none; pass --data-folder DIR");
-    }
-    std::error_code ec;
-    if (!std::filesystem::is_directory(s->DataFolder, ec))
-        return Usage(err, "the data folder " + s->DataFolder + " does not exist");
-
-    const auto bytes = store::ReadWholeFile(o.file);
-    if (!bytes) {
-        err << "tarnquill-cli: cannot read " << o.file << "\n";
-        return 1;
-    }
-    s->store.state.ProjectMode = o.mode.empty() ? ModeOfFile(o.file) : o.mode;
-    auto reader = store::ReaderOf(*bytes);
-    store::ReadEntries(s->store, reader);
-    s->store.state.CurrentFileName = o.file;
-
-    if (o.webFolder) {
-        auto& setupText = s->store.pages[0][0].AttributeText;
-        bool found = false;
-        setupText = PointProjectAt(setupText, *o.webFolder, found);
-        if (!found) {
-            err << "tarnquill-cli: the SetupEntry of " << o.file << " has no [DRIVE FOLDER PATH= to replace\n";
-            return 1;
-        }
-    }
-
+    if (const int code = SetDataFolder(*s, o.dataFolder, err); code != 0)
+        return code;
     ConsolePort port(err);
-    port.replace = o.replace;
-    if (o.wholePage)
-        compose::CreateFormHTMLCode(*s, port);
-    else
-        compose::CreateFormOnly(*s, port);
+    if (const int code = BuildProject(*s, o, port, err); code != 0)
+        return code;
 
     const auto& b = s->build;
-    if (b.buildError != 0 || b.setupHold || b.cancelled || b.endProgram)
-        return 1;
     out << b.htmlPath << "\n" << b.phpPath << "\n";
     // a script that PHP cannot parse would fail on the server: say so, but the build stands
     const auto check = shell::CheckPublishedScript(b, port);

@@ -6,7 +6,32 @@
 #include <string>
 #include <vector>
 
+namespace tq {
+struct Session;
+}
+
 namespace tq::cli {
+
+class ConsolePort;
+
+/// What a build from the command line needs.
+struct BuildOptions
+{
+    std::string file;
+    std::string mode; // FORM or SURVEY; empty: by the file's extension
+    bool wholePage = false;
+    bool replace = false;
+    std::optional<std::string> dataFolder;
+    std::optional<std::string> webFolder;
+};
+
+/// Sets the session's DataFolder to `given` or the default one; 0, or 2 with
+/// the reason on `err` when there is none or it does not exist.
+int SetDataFolder(Session& s, const std::optional<std::string>& given, std::ostream& err);
+
+/// Reads the project file into `s` and builds it as `o` says: 0 when the
+/// build made its files, 1 when it stopped (the reason went through `port`).
+int BuildProject(Session& s, const BuildOptions& o, ConsolePort& port, std::ostream& err);
 
 // Each command gets its arguments after the command word and returns the
 // exit code: 0 success, 1 stopped with a message, 2 usage error.
@@ -16,6 +41,8 @@ int CmdBuild(const std::vector<std::string>& args, std::ostream& out, std::ostre
 int CmdShow(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 int CmdResults(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int CmdSite(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
+int CmdPublish(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 
 /// The project mode a file's extension gives: SURVEY for ".srv", else FORM.
 std::string ModeOfFile(const std::string& path);

@@ -14,7 +14,12 @@ static const char* const kUsage = "usage:\n"
                                   "  tarnquill-cli show FILE.shw --template PATH [--data-folder DIR]\n"
                                   "  tarnquill-cli serve FILE [--port N]\n"
                                   "  tarnquill-cli results [PROJECT] --mail PATH... [--csv OUT] [--data-folder DIR] "
-                                  "[--password-stdin]\n";
+                                  "[--password-stdin]\n"
+                                  "  tarnquill-cli site N --protocol ftp|ftps|sftp --host H [--port P] --user U "
+                                  "[--key PATH] [--password-stdin] --remote-dir D --url URL [--trust] "
+                                  "[--data-folder DIR]\n"
+                                  "  tarnquill-cli publish FILE --site N [--all] [--dry-run] [--password-stdin] "
+                                  "[--web-folder DIR] [--data-folder DIR]\n";
 
 int RunCli(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err)
 {
@@ -33,6 +38,10 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, std::ostream&
         return CmdResults(rest, in, out, err);
     if (args[0] == "serve")
         return CmdServe(rest, out, err);
+    if (args[0] == "site")
+        return CmdSite(rest, in, out, err);
+    if (args[0] == "publish")
+        return CmdPublish(rest, in, out, err);
     err << "tarnquill-cli: unknown command '" << args[0] << "'\n" << kUsage;
     return 2;
 }

@@ -49,6 +49,11 @@ struct UiPort
     /// A one-line input box; nullopt when the user cancelled.
     virtual std::optional<std::string>
     inputBox(std::string_view prompt, std::string_view title, std::string_view initial) = 0;
+    /// An input box whose text is hidden as it is typed; by default the plain one.
+    virtual std::optional<std::string> passwordBox(std::string_view prompt, std::string_view title)
+    {
+        return inputBox(prompt, title, "");
+    }
     virtual std::optional<std::string> openFileDialog(const FileDialogOptions& options) = 0;
     virtual std::optional<std::string> saveFileDialog(const FileDialogOptions& options) = 0;
     virtual std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) = 0;

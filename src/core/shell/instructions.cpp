@@ -52,7 +52,9 @@ std::string ServerPathOf(const Session& s, const std::string& folder)
     return {};
 }
 
-std::vector<std::string> Uploads(const Session& s)
+} // namespace
+
+std::vector<std::string> UploadFiles(const Session& s)
 {
     std::vector<std::string> files;
     if (s.build.wholePage)
@@ -60,8 +62,6 @@ std::vector<std::string> Uploads(const Session& s)
     files.push_back(s.build.formAction);
     return files;
 }
-
-} // namespace
 
 bool HasDownloads(const model::EntryStore& store)
 {
@@ -74,18 +74,21 @@ bool HasDownloads(const model::EntryStore& store)
 
 std::vector<std::string> ListExtraPaths(const model::EntryStore& store)
 {
-    // one line for each kind of upload the project holds, with the first path
-    // of that kind; a commented-out path is listed without its ";"
-    struct Kind
-    {
-        std::string_view label;
-        std::string path;
-    };
-    std::array<Kind, 4> kinds{{{"Web Server Download Path: ", {}},
-                               {"Web Server Background Path: ", {}},
-                               {"Web Server Picture Path: ", {}},
-                               {"Web Server Video Path: ", {}}}};
-    auto note = [](Kind& kind, std::string path) {
+    std::vector<std::string> lines;
+    for (const auto& extra : ExtraUploads(store))
+        lines.push_back(extra.label + extra.path);
+    return lines;
+}
+
+std::vector<ExtraUpload> ExtraUploads(const model::EntryStore& store)
+{
+    // one for each kind of upload the project holds, with the first path of
+    // that kind; a commented-out path is listed without its ";"
+    std::array<ExtraUpload, 4> kinds{{{"Web Server Download Path: ", {}},
+                                      {"Web Server Background Path: ", {}},
+                                      {"Web Server Picture Path: ", {}},
+                                      {"Web Server Video Path: ", {}}}};
+    auto note = [](ExtraUpload& kind, std::string path) {
         path = CutSeparator(CutSemicolon(std::move(path)));
         if (kind.path.empty())
             kind.path = std::move(path);
@@ -102,11 +105,11 @@ std::vector<std::string> ListExtraPaths(const model::EntryStore& store)
             if (model::FindNoCase(e.AttributeText, "[SERVER VIDEO PATH=") != std::string::npos)
                 note(kinds[3], PeekValue(e.AttributeText, "SERVER VIDEO PATH"));
         }
-    std::vector<std::string> lines;
-    for (const Kind& kind : kinds)
+    std::vector<ExtraUpload> uploads;
+    for (ExtraUpload& kind : kinds)
         if (!kind.path.empty())
-            lines.push_back(std::string(kind.label) + kind.path);
-    return lines;
+            uploads.push_back(std::move(kind));
+    return uploads;
 }
 
 std::vector<std::string> InstructionLines(const Session& s)
@@ -123,7 +126,7 @@ std::vector<std::string> InstructionLines(const Session& s)
         const std::string server = ServerPathOf(s, b.setupValues.WebFolder);
         if (!server.empty()) {
             lines.push_back("Web Server File Path: " + server);
-            lines.push_back("   Files to upload to your Web Server: " + Join(Uploads(s), ", "));
+            lines.push_back("   Files to upload to your Web Server: " + Join(UploadFiles(s), ", "));
         }
     }
     lines.push_back("Note: On your Web Server, " + html + (phpExists ? " and file " + php : std::string()) +
@@ -169,7 +172,7 @@ FinalPageText ShowInstructions(Session& s, UiPort&)
     page.title = "INSTRUCTIONS ON GETTING YOUR " + mode + " ON THE INTERNET ";
     page.instructions = std::move(text);
     page.code = store::ReadWholeFile(s.build.htmlPath).value_or(std::string());
-    page.uploads = Uploads(s);
+    page.uploads = UploadFiles(s);
     page.uploadLabel =
         std::string("UPLOAD THE FOLLOWING ") + (page.uploads.size() == 1 ? "FILE" : "FILES") + " TO YOUR WEB SERVER";
     return page;

@@ -35,6 +35,23 @@ struct FinalPageText
 /// the first path of that kind, without a leading ";" and a trailing "/" or "\".
 std::vector<std::string> ListExtraPaths(const model::EntryStore& store);
 
+/// One extra upload: its instruction label ("Web Server Download Path: ")
+/// and its path without a leading ";" and a trailing "/" or "\".
+struct ExtraUpload
+{
+    std::string label;
+    std::string path;
+};
+
+/// The extra uploads of the project, one per distinct line, in the order
+/// ListExtraPaths writes them.
+std::vector<ExtraUpload> ExtraUploads(const model::EntryStore& store);
+
+/// The files of the build under way to upload, by name in the output folder:
+/// the HTML file (a whole page only) and the PHP script. The final page lists
+/// them (FinalPageText::uploads) and publishing sends that list.
+std::vector<std::string> UploadFiles(const Session& s);
+
 /// True when the project holds a download Entry.
 bool HasDownloads(const model::EntryStore& store);
 
