@@ -97,13 +97,21 @@ TEST(ProjectFile, SaveAsksBeforeReplacingAndKeepsTheFileOnNo)
     Put(s, 1, 0, "Setup", "[A=1]\r\n");
     const std::string path = dir.file("one.fms");
     port.file(path);
+    EXPECT_TRUE(store::HasUnsavedChanges(s));
     ASSERT_TRUE(store::SaveProject(s, port, "fms"));
     EXPECT_EQ(test::ReadFileBytes(path), Save(s));
+    EXPECT_FALSE(store::HasUnsavedChanges(s));
     Put(s, 1, 2, "Email", "[Title=e]\r\n");
+    EXPECT_TRUE(store::HasUnsavedChanges(s));
     const std::string before = test::ReadFileBytes(path);
     port.file(path);
     port.answer(Answer::No);
     EXPECT_FALSE(store::SaveProject(s, port, "fms"));
     EXPECT_TRUE(Said(port.last(), "File " + path + "  already exists. Do you want to replace it?", "FILE EXIST"));
     EXPECT_EQ(test::ReadFileBytes(path), before);
+    // a refused save leaves the rows unsaved; opening the file makes them the saved ones
+    EXPECT_TRUE(store::HasUnsavedChanges(s));
+    port.file(path);
+    ASSERT_EQ(store::OpenProject(s, port, 2, "fms", false, {}), 0);
+    EXPECT_FALSE(store::HasUnsavedChanges(s));
 }

@@ -57,7 +57,7 @@ void ResetDefaults(TemplateSettings& settings, std::string_view mode)
     settings.PicturePath = SampleImagePath();
     settings.VideoPath = SampleVideoPath();
     settings.HomePagePath = SampleHomePagePath();
-    settings.DriveFolderPath = "c:\\users";
+    settings.DriveFolderPath = settings.DefaultDriveFolder;
     settings.FromName = ";My Web Page";
     settings.CompletedPage = ";thankyou.htm";
     settings.GlobalAlign = "NONE";

@@ -32,6 +32,9 @@ struct TemplateSettings
     std::string HomePagePath = SampleHomePagePath();
 
     std::string DriveFolderPath = "c:\\users";
+    /// What ResetDefaults puts into DriveFolderPath: the desktop program sets
+    /// a folder of its own that it made for the site.
+    std::string DefaultDriveFolder = "c:\\users";
     std::string FromName = ";My Web Page";
     std::string CompletedPage = ";thankyou.htm";
     std::string GlobalAlign = "NONE";

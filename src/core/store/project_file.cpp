@@ -154,12 +154,14 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
         }
     }
 
-    if (!WriteFileReplacing(name, FormatProjectFile(WriteEntries(s.store)))) {
+    const std::string rows = WriteEntries(s.store);
+    if (!WriteFileReplacing(name, FormatProjectFile(rows))) {
         // no message, as ever; the old file stays as it was
         s.run.busyMark = kIdle;
         return false;
     }
     s.store.state.CurrentFileName = name;
+    s.run.savedRows = rows;
     UpdateRecentList(s, ui);
     RefreshStatus(s);
     s.run.busyMark = kIdle;
@@ -245,6 +247,7 @@ int OpenProject(
     model::RefreshEditMarkers(s.store);
     s.run.LoadInProgress = false;
     state.CurrentFileName = path;
+    MarkSaved(s);
     ui.entriesChanged();
     RefreshStatus(s);
     UpdateRecentList(s, ui);
@@ -267,6 +270,16 @@ void OpenSurveyCommand(Session& s, UiPort& ui, const ProjectHooks& hooks)
         return;
     if (ui.ask("Do you want to switch to the edit screen?", "EDIT", Buttons::YesNo, Icon::Question, 1) == Answer::Yes)
         ui.showView(View::Page1);
+}
+
+void MarkSaved(Session& s)
+{
+    s.run.savedRows = WriteEntries(s.store);
+}
+
+bool HasUnsavedChanges(const Session& s)
+{
+    return WriteEntries(s.store) != s.run.savedRows;
 }
 
 void RefreshStatus(Session& s)

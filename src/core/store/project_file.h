@@ -59,6 +59,14 @@ void ReadEntries(model::EntryStore& store, LineReader& in);
 /// cancelled dialog, a No or a failed write return false with no message.
 bool SaveProject(Session& s, UiPort& ui, std::string_view extension);
 
+/// Takes the rows as they stand as the ones last opened or saved, so that
+/// HasUnsavedChanges answers false until a row changes. Open and save call it.
+void MarkSaved(Session& s);
+
+/// True when a row of any Page differs from what the last open or save (or
+/// MarkSaved) left.
+bool HasUnsavedChanges(const Session& s);
+
 /// OpenProject(sourcePage, extension, fromRecentList): sourcePage 1 is the
 /// start page, 2 to 5 the four Pages. With fromRecentList the caller has put
 /// the menu caption into CurrentProjectName. Returns 0 when the file was

@@ -43,6 +43,7 @@ struct RunValues
     int busyMark = kIdle;           // 0 idle, 1 loading, 222 saving
     bool LoadInProgress = false;    // from the open dialog to the end of a load
     int previewCaller = 0;          // 9: the preview window was opened from the final page
+    std::string savedRows;          // the rows as the last open or save left them (WriteEntries)
 
     // Run defaults that the start and a restore of defaults set.
     std::string GlobalFont = "arial";
