@@ -5,7 +5,9 @@
 #include "model/entry_store.h"
 #include "pick_list.h"
 
+#include <QEvent>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -16,6 +18,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWebEngineView>
+#include <algorithm>
 
 namespace tq::gui {
 
@@ -115,6 +118,11 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
     m_table->setWordWrap(false);
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                              QAbstractItemView::AnyKeyPressed);
+    // Tab leaves the table for the next control instead of walking its cells
+    m_table->setTabKeyNavigation(false);
+    m_table->installEventFilter(this);
+    m_table->setStyleSheet("QTableView#tblRows::item:selected { background: #cfe3f5; color: black; }"
+                           "QTableView#tblRows:focus { border: 2px solid #2e86ab; }");
     m_table->verticalHeader()->setVisible(false);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(30);
@@ -212,6 +220,31 @@ CreatePage::CreatePage(model::EntryStore& store, int page, const CommandHandler&
             onClearAll(m_page);
     });
     setToolTipsShown(true);
+}
+
+bool CreatePage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_table)
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::FocusIn && !m_table->selectionModel()->hasSelection())
+        selectRow(std::max(0, m_table->currentIndex().row()));
+    if (event->type() != QEvent::KeyPress) // an open editor gets its keys itself
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const int row = m_table->currentIndex().row();
+    if (row < 0)
+        return false;
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && onEdit) {
+        onEdit(m_page, row);
+        return true;
+    }
+    // as the row's Clear button: none on the SetupEntry, none on an empty row
+    QWidget* clear = m_table->indexWidget(m_model->index(row, EntryTableModel::ColClear));
+    if (key == Qt::Key_Delete && onClear && clear && clear->isEnabled()) {
+        onClear(m_page, row);
+        return true;
+    }
+    return false;
 }
 
 int CreatePage::selectedPickIndex() const

@@ -70,6 +70,11 @@ class CreatePage : public QWidget
     std::function<void(int page, int targetRow, int sourceRow, int pickIndex)> onDrop;
     std::function<void(int page, int row)> onNumberChanged;
 
+  protected:
+    /// Enter on a row opens its edit page, Delete runs its Clear; a table
+    /// that gets the focus shows its current row selected.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     int selectedPickIndex() const;
 

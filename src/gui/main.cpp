@@ -2,6 +2,7 @@
 #include "main_window.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QStyleFactory>
 #include <unistd.h>
 
@@ -19,6 +20,15 @@ int main(int argc, char** argv)
     // the program cannot start without its folder
     if (!window.start())
         return 1;
+    // the window comes back where and as large as it was left
+    QSettings place("Tarnquill", "Tarnquill");
+    window.restoreGeometry(place.value("window/geometry").toByteArray());
     window.show();
-    return QApplication::exec();
+    // a project named on the command line (a double click in the file manager)
+    const QStringList args = QApplication::arguments();
+    if (args.size() > 1)
+        window.openFile(args.at(1));
+    const int code = QApplication::exec();
+    place.setValue("window/geometry", window.saveGeometry());
+    return code;
 }

@@ -6,11 +6,13 @@
 #include "port/platform.h"
 #include "qt_port.h"
 #include "setup_page.h"
+#include "shortcuts.h"
 #include "start_page.h"
 #include "store/project_file.h"
 #include "store/recent_history.h"
 #include "store/setup_store.h"
 #include "tool_commands.h"
+#include "window_title.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,7 +20,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
+#include <QQuickWidget>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <algorithm>
 
@@ -31,20 +36,6 @@ QString ToQ(const std::string& s)
     return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
 }
 
-// The window title: the page caption when there is one, the project's file
-// name when one is loaded, and the program's name, in that order.
-QString WindowTitle(const QString& caption, const QString& projectPath)
-{
-    QStringList parts;
-    if (!caption.isEmpty())
-        parts << caption;
-    const QString file = QFileInfo(projectPath).fileName();
-    if (!file.isEmpty())
-        parts << file;
-    parts << QStringLiteral("Tarnquill");
-    return parts.join(QStringLiteral(" \u2014 "));
-}
-
 } // namespace
 
 MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
@@ -54,9 +45,18 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
     setWindowTitle("Tarnquill");
     m_fixedFolder =
         documentsFolder.isEmpty() ? ToQ(platform::FixedFolder()) : QDir(documentsFolder).filePath("tarnquill/forms");
+    // the site folder stands beside the forms folder
+    if (!m_fixedFolder.isEmpty())
+        m_siteFolder = QDir::cleanPath(m_fixedFolder + "/../site");
 
     m_stack = new QStackedWidget(this);
     setCentralWidget(m_stack);
+    // The browser views paint through a texture, which the window's surface
+    // must be made for. Saying so before the window first shows keeps it from
+    // being taken down and made again when the first view joins it.
+    auto* textureSurface = new QQuickWidget(this);
+    textureSurface->setObjectName("TextureSurface");
+    textureSurface->hide();
 
     // The start page alone is made now; the other pages are made when first
     // shown, so that the program is quick to start.
@@ -64,6 +64,17 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
     registerPage(View::StartPage, m_start);
 
     m_port->onShowView = [this](View v) { showView(v); };
+    m_busyLine = new QLabel("Working\u2026 please wait", this);
+    m_busyLine->setObjectName("BusyLine");
+    m_busyLine->setStyleSheet("background: #1f4e79; color: white; padding: 4px 12px;");
+    m_busyLine->hide();
+    m_port->onLongWait = [this](bool on) {
+        // over the bottom edge, so that nothing moves when it comes and goes
+        m_busyLine->adjustSize();
+        m_busyLine->move(0, height() - m_busyLine->height());
+        m_busyLine->raise();
+        m_busyLine->setVisible(on);
+    };
     m_port->onEntriesChanged = [this] { refreshAll(); };
     m_port->onHidePreviews = [this] {
         for (auto* p : madePages())
@@ -75,6 +86,7 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
     };
     registerCommands();
     collectActions();
+    makeShortcuts();
     m_stack->setCurrentWidget(m_start);
     resize(1280, 800);
     setMinimumSize(960, 600);
@@ -98,9 +110,16 @@ bool MainWindow::start()
     // No file of the program is touched before the DataFolder is known.
     s.DataFolder = store::LoadDataFolder(*m_port, m_fixedFolder.toStdString());
 
+    // A first build needs a folder that exists: the site folder beside the
+    // forms is made now and is what a new SetupEntry names.
+    if (QDir().mkpath(m_siteFolder)) {
+        s.settings.DefaultDriveFolder = m_siteFolder.toStdString();
+        s.settings.DriveFolderPath = s.settings.DefaultDriveFolder;
+    }
     fillPickLists();
     store::ImportSetup(s.setup, *m_port, s.DataFolder, true);
     resetEntryList();
+    store::MarkSaved(s); // nothing to save yet
     store::RefreshPhotoList(s, *m_port);
     store::RefreshFormList(s, *m_port);
 
@@ -200,13 +219,71 @@ void MainWindow::showView(View v)
     }
     m_view = v;
     m_stack->setCurrentWidget(page);
+    const auto keys = KeysOf(v, m_session.store.state.ProjectMode);
+    for (QShortcut* sc : m_shortcuts)
+        sc->setEnabled(std::any_of(keys.begin(), keys.end(), [sc](const KeyCommand& k) { return k.key == sc->key(); }));
     refreshWindowTitle();
 }
 
 void MainWindow::refreshWindowTitle()
 {
     const QString caption = m_view == View::EditPage && m_edit ? m_edit->caption() : QString();
-    setWindowTitle(WindowTitle(caption, ToQ(m_session.run.CurrentProjectName)));
+    const Session& s = m_session;
+    setWindowTitle(WindowTitle(caption, ToQ(s.store.state.CurrentFileName), store::HasUnsavedChanges(s)));
+}
+
+void MainWindow::makeShortcuts()
+{
+    // one shortcut per key for the whole window; the page on show decides what it runs
+    QList<QKeySequence> made;
+    for (View v : {View::StartPage, View::Page2, View::EditPage})
+        for (const KeyCommand& k : KeysOf(v, "FORM")) {
+            if (made.contains(k.key))
+                continue;
+            made << k.key;
+            auto* sc = new QShortcut(k.key, this);
+            sc->setObjectName("Key " + k.key.toString());
+            connect(sc, &QShortcut::activated, this, [this, key = k.key] { pressKey(key); });
+            m_shortcuts << sc;
+        }
+}
+
+void MainWindow::pressKey(const QKeySequence& key)
+{
+    QWidget* page = m_stack->currentWidget();
+    for (const KeyCommand& k : KeysOf(m_view, m_session.store.state.ProjectMode)) {
+        if (k.key != key)
+            continue;
+        for (QAction* a : page->findChildren<QAction*>(k.command))
+            if (a->isEnabled() && a->isVisible()) {
+                a->trigger();
+                return;
+            }
+        // a command that no menu of the page shows
+        if (page->findChildren<QAction*>(k.command).isEmpty())
+            runCommand(k.command);
+        return;
+    }
+}
+
+void MainWindow::applyMenuKeys()
+{
+    const std::string& mode = m_session.store.state.ProjectMode;
+    for (auto it = m_views.cbegin(); it != m_views.cend(); ++it) {
+        const auto keys = KeysOf(it.key(), mode);
+        for (QAction* a : it.value()->findChildren<QAction*>()) {
+            QKeySequence shown;
+            for (const KeyCommand& k : keys)
+                if (k.command == a->objectName())
+                    shown = k.key;
+            if (a->shortcut() == shown)
+                continue;
+            // shown in the menu only: the window's own shortcut runs the command
+            a->setShortcutContext(Qt::WidgetShortcut);
+            a->setShortcut(shown);
+        }
+    }
+}
 }
 
 void MainWindow::registerCommand(const QString& name, std::function<void()> run)
@@ -341,6 +418,7 @@ void MainWindow::refreshAll()
     }
     applyToolTips();
     refreshMenus();
+    applyMenuKeys();
     refreshWindowTitle();
     if (m_setup && m_view == View::SetupPage)
         m_setup->refresh();

@@ -16,6 +16,9 @@
 
 class QStackedWidget;
 class QAction;
+class QShortcut;
+class QLabel;
+class QKeySequence;
 
 namespace tq::gui {
 
@@ -44,10 +47,16 @@ class MainWindow : public QMainWindow
     /// start page.
     bool start();
 
+    /// Opens the project file `path` as a recent-list pick does and shows
+    /// Page 1; a file that cannot be read is told.
+    void openFile(const QString& path);
+
     Session& session() { return m_session; }
     QtPort& port() { return *m_port; }
     /// The fixed folder that holds "\Tarnquill.stt".
     QString fixedFolder() const { return m_fixedFolder; }
+    /// The folder made at the start for the site, the default DRIVE FOLDER PATH.
+    QString siteFolder() const { return m_siteFolder; }
 
     /// Runs a command by its name, as the menus do, then refreshes the views.
     void runCommand(const QString& name);
@@ -78,6 +87,8 @@ class MainWindow : public QMainWindow
     /// Writes the window title: the caption of the edit page or edit window
     /// while one is shown, the project's file name, the program's name.
     void refreshWindowTitle();
+    /// Runs the command that `key` stands for on the page on show, as its menu would.
+    void pressKey(const QKeySequence& key);
 
     /// When set, ConfirmExit and closing the window end through this instead
     /// of quitting the application.
@@ -120,6 +131,8 @@ class MainWindow : public QMainWindow
     void selectPickItem(int page, int pickIndex);
     void quickPreview(int page, int pickIndex);
     void applyToolTips();
+    void applyMenuKeys();
+    void makeShortcuts();
 
     Session m_session;
     std::unique_ptr<QtPort> m_port;
@@ -133,11 +146,15 @@ class MainWindow : public QMainWindow
     QMap<View, QWidget*> m_views;
     QHash<QString, std::function<void()>> m_commands;
     QHash<QString, QList<QAction*>> m_actions;
+    QList<QShortcut*> m_shortcuts;
+    QLabel* m_busyLine = nullptr; // the progress line of a long wait
     View m_view = View::StartPage;
     int m_currentPage = 1; // CurrentPage: the way back from the Setup page
     QString m_fixedFolder;
+    QString m_siteFolder;
     bool m_inCommand = false;
     bool m_buildFinished = false; // the build asked for the final page
+    int m_scriptChecks = 0;       // the php check of the newest build
 };
 
 } // namespace tq::gui

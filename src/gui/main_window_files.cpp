@@ -8,6 +8,8 @@
 #include "store/project_file.h"
 #include "store/recent_history.h"
 
+#include <QFileInfo>
+
 namespace tq::gui {
 
 void MainWindow::registerFileCommands()
@@ -54,6 +56,21 @@ void MainWindow::registerFileCommands()
     registerCommand("EditSurveyHistory", [&] { store::EditHistory(s, ui, store::RecentList::Surveys); });
     registerCommand("RefreshFormHistory", [&] { store::RefreshFormList(s, ui); });
     registerCommand("RefreshSurveyHistory", [&] { store::RefreshSurveyList(s, ui); });
+}
+
+void MainWindow::openFile(const QString& path)
+{
+    if (!QFileInfo(path).isFile() || !QFileInfo(path).isReadable()) {
+        m_port->message("The project file\r" + path.toStdString() + "\rcannot be opened.", "NOT OPENED",
+                        Icon::Exclamation);
+        return;
+    }
+    // as a pick from a recent list: a survey file switches to SURVEY
+    m_session.run.CurrentProjectName = QFileInfo(path).absoluteFilePath().toStdString();
+    const bool survey = path.endsWith(".srv", Qt::CaseInsensitive);
+    if (store::OpenProject(m_session, *m_port, 1, survey ? "srv" : "fms", true, projectHooks()) == 0)
+        showView(View::Page1);
+    refreshAll();
 }
 
 } // namespace tq::gui
