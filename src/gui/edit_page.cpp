@@ -8,8 +8,15 @@
 #include "model/text_ops.h"
 #include "session.h"
 #include "shell/preview.h"
+#include "shell/quiet_port.h"
+#include "swatch.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QSplitter>
+#include <QTimer>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -34,10 +41,24 @@ std::string FromQ(const QString& s)
     return s.toUtf8().toStdString();
 }
 
-/// A colour of the core (red in the low byte) as a Qt colour.
-QColor ToColor(long c)
+// the pause after the last key before the live preview follows
+constexpr int kLiveDelayMs = 150;
+
+/// Copies what the value widgets hold into the rows of `st`.
+void ReadValuesInto(const QList<QWidget*>& values, shell::EditState& st)
 {
-    return QColor(static_cast<int>(c & 0xff), static_cast<int>((c >> 8) & 0xff), static_cast<int>((c >> 16) & 0xff));
+    for (int row = 0; row < values.size(); ++row) {
+        auto& f = st.fields[static_cast<size_t>(row)];
+        if (auto* edit = qobject_cast<QLineEdit*>(values[row]))
+            f.Value = FromQ(edit->text());
+        else if (auto* combo = qobject_cast<QComboBox*>(values[row]))
+            f.Value = FromQ(combo->currentText());
+    }
+}
+
+bool IsDriveFolderKey(const std::string& key)
+{
+    return model::EqualsNoCase(model::Trim(key), "DRIVE FOLDER PATH");
 }
 
 bool IsPullDown(shell::FieldKind k)
@@ -74,7 +95,15 @@ EditPage::EditPage(Session& session, UiPort& ui, QWidget* parent) : QWidget(pare
     m_caption = new QLabel;
     m_caption->setObjectName("lblEditCaption");
     m_caption->setStyleSheet("font-size: 16px; font-weight: 600; color: #1f4e79;");
-    layout->addWidget(m_caption);
+    m_caption->setWordWrap(true);
+    m_liveSwitch = new QCheckBox("Live preview");
+    m_liveSwitch->setObjectName("LivePreviewSwitch");
+    m_liveSwitch->setChecked(true);
+    m_liveSwitch->setToolTip("Shows the Entry beside its rows as you type");
+    auto* head = new QHBoxLayout;
+    head->addWidget(m_caption, 1);
+    head->addWidget(m_liveSwitch);
+    layout->addLayout(head);
 
     m_scroll = new QScrollArea;
     m_scroll->setWidgetResizable(true);
@@ -84,7 +113,27 @@ EditPage::EditPage(Session& session, UiPort& ui, QWidget* parent) : QWidget(pare
     m_grid->setHorizontalSpacing(10);
     m_grid->setVerticalSpacing(4);
     m_scroll->setWidget(m_rowsHost);
-    layout->addWidget(m_scroll, 1);
+
+    // The rows and, beside them, the Entry as the rows make it now. The pane's
+    // browser is made when the page first opens.
+    m_livePane = new QWidget;
+    m_livePane->setObjectName("LivePreviewPane");
+    m_livePane->setMinimumWidth(260);
+    auto* liveLayout = new QVBoxLayout(m_livePane);
+    liveLayout->setContentsMargins(0, 0, 0, 0);
+    auto* split = new QSplitter(Qt::Horizontal);
+    split->setObjectName("EditSplit");
+    split->setChildrenCollapsible(false);
+    split->addWidget(m_scroll);
+    split->addWidget(m_livePane);
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 2);
+    layout->addWidget(split, 1);
+    m_liveTimer = new QTimer(this);
+    m_liveTimer->setSingleShot(true);
+    m_liveTimer->setInterval(kLiveDelayMs);
+    connect(m_liveTimer, &QTimer::timeout, this, [this] { refreshLivePreview(); });
+    connect(m_liveSwitch, &QCheckBox::toggled, this, [this](bool on) { setLivePreviewShown(on); });
 
     m_window = new EditWindow(this);
     m_window->hide();
@@ -122,6 +171,8 @@ void EditPage::open(int page, int row, const QString& selectKey)
     exitPreview();
     m_window->hide();
     buildRows();
+    if (livePreviewShown())
+        refreshLivePreview();
     const int selected = selectKey.isEmpty() ? -1 : rowOf(selectKey);
     if (selected >= 0) {
         // the build sent the user here: the row at fault is shown coloured
@@ -150,6 +201,7 @@ void EditPage::buildRows()
             delete w;
     m_rowWidgets.clear();
     m_values.clear();
+    m_swatches.clear();
     for (size_t i = 0; i < m_state.fields.size(); ++i) {
         const int row = static_cast<int>(i);
         const auto& f = m_state.fields[i];
@@ -200,11 +252,28 @@ void EditPage::buildRows()
                 for (int r = 0; r < m_rowWidgets.size(); ++r)
                     for (QWidget* w : m_rowWidgets[r])
                         w->setVisible(m_state.fields[static_cast<size_t>(r)].visible);
+                valueTyped();
             });
             value = combo;
+        } else if (IsDriveFolderKey(f.Key)) {
+            // the folder can be typed, browsed for, or taken from the Setup page's web folders
+            auto* combo = new QComboBox;
+            combo->setEditable(true);
+            combo->addItems(driveFolderChoices(ToQ(f.Value)));
+            combo->setCurrentText(ToQ(f.Value));
+            connect(combo, &QComboBox::currentTextChanged, this, [this] { valueTyped(); });
+            value = combo;
+            action = new QPushButton("Edit");
+            action->setObjectName(QString("Edit%1").arg(row));
+            connect(action, &QPushButton::clicked, this, [this, row] {
+                readValues();
+                shell::EditTextField(m_session, m_ui, m_state, row);
+                paintRow(row);
+            });
         } else {
             auto* edit = new QLineEdit(ToQ(f.Value));
             value = edit;
+            connect(edit, &QLineEdit::textChanged, this, [this] { valueTyped(); });
             if (f.Kind == shell::FieldKind::ColorField) {
                 edit->setReadOnly(true);
                 action = new QPushButton("Change Color");
@@ -232,8 +301,25 @@ void EditPage::buildRows()
             }
         }
         value->setObjectName(QString("txtValue%1").arg(row));
-        m_grid->addWidget(value, row, 1);
-        widgets << value;
+        QWidget* swatch = nullptr;
+        if (f.Kind == shell::FieldKind::ColorField) {
+            // the number stays as the format keeps it; the swatch shows what it means
+            auto* cell = new QWidget;
+            auto* cellLayout = new QHBoxLayout(cell);
+            cellLayout->setContentsMargins(0, 0, 0, 0);
+            swatch = new QWidget;
+            swatch->setObjectName(QString("Swatch%1").arg(row));
+            swatch->setFixedSize(40, 22);
+            swatch->setAttribute(Qt::WA_StyledBackground);
+            cellLayout->addWidget(value, 1);
+            cellLayout->addWidget(swatch);
+            m_grid->addWidget(cell, row, 1);
+            widgets << cell;
+        } else {
+            m_grid->addWidget(value, row, 1);
+            widgets << value;
+        }
+        m_swatches << swatch;
         m_values << value;
         if (action) {
             m_grid->addWidget(action, row, 2);
@@ -264,24 +350,23 @@ void EditPage::paintRow(int row)
         if (edit->text() != ToQ(f.Value))
             edit->setText(ToQ(f.Value));
         if (f.Kind == shell::FieldKind::ColorField) {
-            const QColor c = ToColor(shell::FieldColor(f));
+            const QColor c = CoreColor(shell::FieldColor(f));
             const QColor text = c.lightness() < 128 ? Qt::white : Qt::black;
             edit->setStyleSheet(QString("QLineEdit { background-color: %1; color: %2; }").arg(c.name(), text.name()));
+            if (QWidget* swatch = m_swatches.value(row))
+                PaintSwatch(swatch, shell::FieldColor(f));
             return;
         }
+    } else if (auto* combo = qobject_cast<QComboBox*>(w); combo && combo->isEditable()) {
+        if (combo->currentText() != ToQ(f.Value))
+            combo->setCurrentText(ToQ(f.Value));
     }
     w->setStyleSheet(f.failed ? "background-color: #ff0000; color: #ffffff;" : "");
 }
 
 void EditPage::readValues()
 {
-    for (int row = 0; row < m_values.size(); ++row) {
-        auto& f = m_state.fields[static_cast<size_t>(row)];
-        if (auto* edit = qobject_cast<QLineEdit*>(m_values[row]))
-            f.Value = FromQ(edit->text());
-        else if (auto* combo = qobject_cast<QComboBox*>(m_values[row]))
-            f.Value = FromQ(combo->currentText());
-    }
+    ReadValuesInto(m_values, m_state);
 }
 
 void EditPage::markFailedRow()
@@ -372,6 +457,65 @@ void EditPage::openEditWindow(int row)
 QString EditPage::caption() const
 {
     return m_window->isHidden() ? QStringLiteral("EDIT PAGE") : QStringLiteral("EDIT WINDOW");
+}
+
+QStringList EditPage::driveFolderChoices(const QString& current) const
+{
+    QStringList choices{current, ToQ(m_session.settings.DefaultDriveFolder)};
+    for (const auto& r : m_session.setup.rows)
+        if (!model::Trim(r.WebFolderPath).empty())
+            choices << ToQ(r.WebFolderPath);
+    choices.removeDuplicates();
+    return choices;
+}
+
+void EditPage::valueTyped()
+{
+    if (livePreviewShown())
+        m_liveTimer->start(); // a later key starts the pause again
+}
+
+void EditPage::setLivePreviewShown(bool on)
+{
+    if (m_liveSwitch->isChecked() != on)
+        m_liveSwitch->setChecked(on);
+    m_livePane->setVisible(on);
+    if (on && !m_state.fields.empty())
+        refreshLivePreview();
+    else
+        m_liveTimer->stop();
+}
+
+bool EditPage::livePreviewShown() const
+{
+    return m_liveSwitch->isChecked();
+}
+
+void EditPage::refreshLivePreview()
+{
+    // The rows as they are typed, on a copy: nothing is committed, and a row
+    // that does not pass its check yet leaves the last good page in the pane.
+    shell::EditState typed = m_state;
+    ReadValuesInto(m_values, typed);
+    shell::QuietPort quiet;
+    const std::string file = shell::PreviewEntry(m_session, quiet, typed);
+    if (file.empty())
+        return;
+    QFile page(ToQ(file));
+    if (!page.open(QIODevice::ReadOnly))
+        return;
+    if (!m_live) {
+        m_live = new QWebEngineView;
+        m_live->setObjectName("LivePreview");
+        m_live->setFocusPolicy(Qt::NoFocus);
+        m_livePane->layout()->addWidget(m_live);
+        connect(m_live, &QWebEngineView::loadFinished, this, [this] {
+            if (onLivePainted)
+                onLivePainted();
+        });
+    }
+    // the page is given as it stands, so that the pane never shows a file half written
+    m_live->setHtml(QString::fromUtf8(page.readAll()), QUrl::fromLocalFile(ToQ(file)));
 }
 
 } // namespace tq::gui

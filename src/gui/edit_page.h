@@ -4,6 +4,7 @@
 #include "shell/edit_page.h"
 
 #include <QHash>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
 
@@ -14,6 +15,8 @@ class QMenuBar;
 class QAction;
 class QWebEngineView;
 class QStringListModel;
+class QCheckBox;
+class QTimer;
 
 namespace tq {
 struct Session;
@@ -46,6 +49,13 @@ class EditPage : public QWidget
     void readValues();
     EditWindow* editWindow() const { return m_window; }
     QWebEngineView* browser() const { return m_web; }
+    /// The live preview pane beside the rows, made on first use.
+    QWebEngineView* livePreview() const { return m_live; }
+    /// Shows or hides the live preview pane (the page remembers the choice).
+    void setLivePreviewShown(bool on);
+    bool livePreviewShown() const;
+    /// Called each time the live preview pane has painted a new page.
+    std::function<void()> onLivePainted;
 
     /// Exit: commit; on success the create page comes back.
     void exitPage();
@@ -68,6 +78,9 @@ class EditPage : public QWidget
     void paintRow(int row);
     void markFailedRow();
     void showBrowser(const QString& file);
+    void valueTyped();
+    QStringList driveFolderChoices(const QString& current) const;
+    void refreshLivePreview();
 
     Session& m_session;
     UiPort& m_ui;
@@ -79,6 +92,11 @@ class EditPage : public QWidget
     QList<QList<QWidget*>> m_rowWidgets; // label, value, button(s) of each row
     QList<QWidget*> m_values;
     QWebEngineView* m_web = nullptr;
+    QWebEngineView* m_live = nullptr;
+    QWidget* m_livePane = nullptr;
+    QCheckBox* m_liveSwitch = nullptr;
+    QTimer* m_liveTimer = nullptr;
+    QList<QWidget*> m_swatches; // one per row, null where the row holds no colour
     QAction* m_exitPreview = nullptr;
     EditWindow* m_window = nullptr;
     /// One model per pull-down list, shared by the rows: a list of 1000 items is built once.

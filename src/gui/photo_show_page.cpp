@@ -6,6 +6,7 @@
 #include "show/show_build.h"
 #include "show/show_commands.h"
 #include "show/show_file.h"
+#include "swatch.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -206,7 +207,12 @@ PhotoShowPage::PhotoShowPage(Session& session, UiPort& ui, QWidget* parent)
     button("ViewShowLive", "VIEW PHOTOSHOW LIVE ON YOUR WEB SITE", 1, 0, true);
     button("FtpOutputFiles", "FTP OUTPUT FILES TO YOUR WEB SERVER", 1, 1, true);
     outLayout->addLayout(buttons);
-    main->addWidget(output);
+    // the build and its results stay in sight below the settings, however small the window
+    auto* pinned = new QWidget;
+    auto* pinnedLayout = new QVBoxLayout(pinned);
+    pinnedLayout->setContentsMargins(32, 4, 32, 12);
+    pinnedLayout->addWidget(output);
+    outer->addWidget(pinned);
     main->addStretch(1);
 
     refresh();
@@ -267,11 +273,7 @@ void PhotoShowPage::refresh()
         edit->setText(QString::fromStdString(s.*member));
     for (const auto& [box, member] : m_lists)
         fillList(box, s.*member);
-    const long c = s.BackgroundColor;
-    m_sample->setStyleSheet(QString("#BackgroundSample { background: rgb(%1, %2, %3); }")
-                                .arg(c & 0xff)
-                                .arg((c >> 8) & 0xff)
-                                .arg((c >> 16) & 0xff));
+    PaintSwatch(m_sample, s.BackgroundColor);
     m_output->setText(QString::fromStdString(m_session.photoShow.OutputLine));
     m_output->setEnabled(m_session.photoShow.outputEnabled);
     for (auto* b : m_afterBuild)

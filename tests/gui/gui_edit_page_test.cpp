@@ -142,6 +142,8 @@ class EditPageTest : public QObject
         auto* value = qobject_cast<QLineEdit*>(edit->valueWidget(row));
         QCOMPARE(value->text(), QString("16711680"));
         QVERIFY(value->styleSheet().contains("#0000ff"));
+        // the swatch beside the number follows it
+        QVERIFY(edit->findChild<QWidget*>(QString("Swatch%1").arg(row))->styleSheet().contains("#0000ff"));
         QCOMPARE(w.session().settings.FrameColor, std::string("16711680"));
         QVERIFY(test::Trigger(&w, "Exit"));
         QVERIFY(app.at(1, 0).AttributeText.find("[Frame Color=16711680]") != std::string::npos);
