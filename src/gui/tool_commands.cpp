@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool_commands.h"
 
+#include "help_window.h"
 #include "local_test_window.h"
 #include "results_window.h"
 #include "main_window.h"
@@ -57,6 +58,22 @@ void InstallToolCommands(MainWindow& window)
     RegisterToolCommands(commands, w->session(), w->port());
     for (auto it = commands.begin(); it != commands.end(); ++it)
         w->registerCommand(it.key(), it.value());
+
+    // The help pages that ship with the program open in the embedded browser;
+    // where a page is missing the web address stands in.
+    for (const QString& name : LocalHelpCommands())
+        w->registerCommand(name, [w, name] {
+            const QString file = LocalHelpPage(HelpFolder(), name);
+            if (file.isEmpty()) {
+                if (!shell::OpenHelpPage(name.toStdString(), w->port()))
+                    shell::OpenHelpPage("HomePage", w->port());
+                return;
+            }
+            auto* help = w->findChild<HelpWindow*>("HelpWindow");
+            if (!help)
+                help = new HelpWindow(w);
+            help->showPage(file);
+        });
 
     auto caller = std::make_shared<View>(View::StartPage);
     w->registerCommand("PhotoShow", [w, caller] {
