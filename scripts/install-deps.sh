@@ -4,7 +4,7 @@
 set -eu
 PKGS="cmake ninja-build g++ ccache qt6-base-dev qt6-webengine-dev qt6-tools-dev qt6-charts-dev libgl-dev libcurl4-openssl-dev qtkeychain-qt6-dev libgmime-3.0-dev nlohmann-json3-dev libssl-dev pkg-config"
 if [ "${1:-}" = "--test" ]; then
-    PKGS="$PKGS dpkg-dev libgtest-dev libgmock-dev libbenchmark-dev php-cli php-zip xvfb xauth chromium clang libclang-rt-14-dev python3-pyftpdlib python3-openssl vsftpd openssh-server openssh-client dovecot-imapd curl openssl sudo"
+    PKGS="$PKGS dpkg-dev libgtest-dev libgmock-dev libbenchmark-dev php-cli php-zip xvfb xauth chromium clang libclang-rt-14-dev python3-pyftpdlib python3-openssl python3-xlib vsftpd openssh-server openssh-client dovecot-imapd curl openssl sudo"
 fi
 missing=""
 for p in $PKGS; do

@@ -20,7 +20,6 @@
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTextBrowser>
-#include <QThread>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineView>
@@ -70,12 +69,9 @@ int FreePort()
     return probe.serverPort();
 }
 
-bool Accepts(int port)
-{
-    QTcpSocket socket;
-    socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(port));
-    return socket.waitForConnected(200);
-}
+// How long PHP may take to listen, and the pause between two looks.
+constexpr int kServerWaitMs = 5000;
+constexpr int kProbeIntervalMs = 10;
 
 // Text for the panel: the mail's CR LF become plain line ends, so that the
 // body reads as the recipient's mail program shows it.
@@ -251,31 +247,55 @@ bool LocalTestWindow::start(const Session& session, UiPort& ui)
     m_server->setProcessChannelMode(QProcess::MergedChannels);
     m_server->setStandardOutputFile(QProcess::nullDevice());
     m_server->start(php, args);
-    bool ready = false;
-    ui.setBusy(true);
-    if (m_server->waitForStarted(5000)) {
-        QElapsedTimer waited;
-        waited.start();
-        while (!ready && waited.elapsed() < 5000 && m_server->state() == QProcess::Running) {
-            ready = Accepts(port);
-            if (!ready)
-                QThread::msleep(50);
-        }
-    }
-    ui.setBusy(false);
-    if (!ready) {
-        ui.message("PHP could not serve the form on " + address.toStdString() + ".", "TEST LOCALLY", Icon::Exclamation);
-        stop();
-        return false;
-    }
 
     const QString page = QFileInfo(QString::fromStdString(b.htmlPath)).fileName();
     m_url = "http://" + address + "/" + page;
+    m_address->setText("Starting PHP for <b>" + page.toHtmlEscaped() + "</b> at " + m_url);
+    // The form is loaded once PHP takes connections; the wait runs on the
+    // event loop, so the windows stay live and paint meanwhile.
+    m_ui = &ui;
+    m_port = port;
+    ui.setBusy(true);
+    m_waited.start();
+    probeServer();
+    return true;
+}
+
+void LocalTestWindow::probeServer()
+{
+    if (!m_server)
+        return;
+    if (m_server->state() == QProcess::NotRunning || m_waited.elapsed() > kServerWaitMs) {
+        m_ui->setBusy(false);
+        const std::string address = "127.0.0.1:" + std::to_string(m_port);
+        m_ui->message("PHP could not serve the form on " + address + ".", "TEST LOCALLY", Icon::Exclamation);
+        stop();
+        hide();
+        return;
+    }
+    auto* socket = new QTcpSocket(this);
+    QProcess* server = m_server;
+    connect(socket, &QTcpSocket::connected, this, [this, socket, server] {
+        socket->deleteLater();
+        if (server == m_server)
+            serverReady();
+    });
+    connect(socket, &QTcpSocket::errorOccurred, this, [this, socket, server] {
+        socket->deleteLater();
+        if (server == m_server)
+            QTimer::singleShot(kProbeIntervalMs, this, &LocalTestWindow::probeServer);
+    });
+    socket->connectToHost(QHostAddress::LocalHost, static_cast<quint16>(m_port));
+}
+
+void LocalTestWindow::serverReady()
+{
+    m_ui->setBusy(false);
+    const QString page = QUrl(m_url).fileName();
     m_address->setText("Serving <b>" + page.toHtmlEscaped() + "</b> at <a href='" + m_url + "'>" + m_url +
                        "</a> &nbsp; (PHP on this computer, mails are caught)");
     m_view->load(QUrl(m_url));
     m_poll->start();
-    return true;
 }
 
 QString LocalTestWindow::mailFolder() const
@@ -288,6 +308,8 @@ void LocalTestWindow::stop()
     if (m_poll)
         m_poll->stop();
     if (m_server) {
+        if (m_ui && m_poll && !m_poll->isActive())
+            m_ui->setBusy(false); // stopped while it waited for PHP
         m_server->terminate();
         if (!m_server->waitForFinished(3000)) {
             m_server->kill();

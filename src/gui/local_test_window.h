@@ -4,6 +4,7 @@
 #include "port/ui_port.h"
 #include "session.h"
 
+#include <QElapsedTimer>
 #include <QSet>
 #include <QString>
 #include <QWidget>
@@ -51,6 +52,8 @@ class LocalTestWindow : public QWidget
 
   private:
     void showMail(int row);
+    void probeServer();
+    void serverReady();
 
     std::unique_ptr<QTemporaryDir> m_root;
     QProcess* m_server = nullptr;
@@ -62,6 +65,9 @@ class LocalTestWindow : public QWidget
     QStringList m_mailTexts;
     QSet<QString> m_seen;
     QString m_url;
+    UiPort* m_ui = nullptr; // the port of the last start, for the wait's end
+    int m_port = 0;
+    QElapsedTimer m_waited;
 };
 
 } // namespace tq::gui

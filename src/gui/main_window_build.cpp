@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The build commands and the commands of the Help menu that stay in the program.
 #include "about_dialog.h"
+#include "async_process.h"
 #include "compose/build_driver.h"
 #include "busy_cursor.h"
 #include "final_page.h"
 #include "main_window.h"
 #include "qt_port.h"
 #include "shell/publish_check.h"
+
+#include <memory>
 
 namespace tq::gui {
 
@@ -39,13 +42,19 @@ void MainWindow::runBuild(bool wholePage)
     }
     if (!m_buildFinished)
         return;
-    // a script that PHP cannot parse would fail on the server: the warning stands on a line of its own
-    std::string warning;
-    {
-        BusyCursor busy;
-        warning = shell::CheckPublishedScript(s.build, *m_port).warning;
-    }
-    finalPage()->setPublishWarning(QString::fromStdString(warning));
+    // A script that PHP cannot parse would fail on the server: the warning
+    // stands on a line of its own once php has read it. The window does not
+    // wait for php; a later build's check replaces this one's.
+    finalPage()->setPublishWarning({});
+    const int check = ++m_scriptChecks;
+    auto warning = std::make_shared<std::string>();
+    RunStepWithoutWaiting(
+        this,
+        [this, warning](UiPort& port) { *warning = shell::CheckPublishedScript(m_session.build, port).warning; },
+        [this, warning, check] {
+            if (check == m_scriptChecks)
+                finalPage()->setPublishWarning(QString::fromStdString(*warning));
+        });
     if (wholePage)
         showWholePagePreview(fromFinalPage);
 }

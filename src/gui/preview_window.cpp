@@ -3,6 +3,7 @@
 
 #include <QMenuBar>
 #include <QVBoxLayout>
+#include <QWebEnginePage>
 #include <QWebEngineView>
 
 namespace tq::gui {
@@ -38,6 +39,19 @@ PreviewWindow::PreviewWindow(QWidget* parent) : QWidget(parent)
 
 void PreviewWindow::showFile(const QString& file)
 {
+    // A view that comes back shows its last picture until the new page paints:
+    // a fresh page has none, so the page before never flashes up again.
+    if (m_shownBefore && !isVisible()) {
+        // the view deletes the page it made itself; the ones made here go after it
+        QWebEnginePage* old = m_web->page();
+        const bool madeHere = old->parent() == m_web && old->objectName() == "PreviewPage";
+        auto* fresh = new QWebEnginePage(old->profile(), m_web);
+        fresh->setObjectName("PreviewPage");
+        m_web->setPage(fresh);
+        if (madeHere)
+            old->deleteLater();
+    }
+    m_shownBefore = true;
     m_web->setUrl(QUrl::fromLocalFile(file));
 }
 

@@ -27,6 +27,7 @@ class PreviewWindow : public QWidget
 
   private:
     QWebEngineView* m_web = nullptr;
+    bool m_shownBefore = false;
 };
 
 } // namespace tq::gui

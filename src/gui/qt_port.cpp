@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
-#include <QDesktopServices>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -12,11 +11,15 @@
 #include <QMessageBox>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QPointer>
 #include <QProcess>
 #include <QTimer>
 #include <QUrl>
 
 namespace tq::gui {
+
+/// The desktop's opener of documents, folders and web addresses.
+static constexpr const char* kOpener = "xdg-open";
 
 static QString ToQ(std::string_view s)
 {
@@ -152,23 +155,75 @@ std::optional<long> QtPort::chooseColor(long initial, std::string_view title)
     return static_cast<long>(c.red()) | (static_cast<long>(c.green()) << 8) | (static_cast<long>(c.blue()) << 16);
 }
 
+// how long the busy pointer stands before a progress line joins it
+static constexpr int kLongWaitMs = 500;
+
+QtPort::QtPort(QWidget* parent) : m_parent(parent)
+{
+    m_longWait = new QTimer;
+    m_longWait->setSingleShot(true);
+    m_longWait->setInterval(kLongWaitMs);
+    QObject::connect(m_longWait, &QTimer::timeout, [this] {
+        if (m_busy && onLongWait)
+            onLongWait(true);
+    });
+}
+
+QtPort::~QtPort()
+{
+    delete m_longWait;
+}
+
 void QtPort::setBusy(bool on)
 {
     // a mark, not a count: the core may clear it more often than it sets it
     if (on == m_busy)
         return;
     m_busy = on;
-    if (on)
+    if (on) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
+        m_longWait->start();
+    } else {
         QApplication::restoreOverrideCursor();
+        m_longWait->stop();
+        if (onLongWait)
+            onLongWait(false);
+    }
+}
+
+// Tells the user that the desktop could not open `target`, naming it.
+static void TellNotOpened(QWidget* parent, const QString& target)
+{
+    QMessageBox box(QMessageBox::Warning, "NOT OPENED",
+                    "Tarnquill could not open\n" + target +
+                        "\n\nThis desktop has no program for it, or the program failed to start.",
+                    QMessageBox::Ok, parent);
+    box.setObjectName("NotOpenedBox");
+    box.exec();
 }
 
 bool QtPort::openTarget(std::string_view target)
 {
-    QString t = ToQ(target);
-    QUrl url = t.contains("://") ? QUrl(t) : QUrl::fromLocalFile(t);
-    return QDesktopServices::openUrl(url);
+    const QString t = ToQ(target);
+    const QUrl url = t.contains("://") ? QUrl(t) : QUrl::fromLocalFile(t);
+    // The desktop's opener runs on its own, so that nothing waits for it; when
+    // it is missing or gives up, the user hears of it. The process has no
+    // parent: closing the window must not end the program it opened.
+    auto* opener = new QProcess;
+    QPointer<QWidget> parent = m_parent;
+    QObject::connect(opener, &QProcess::finished, opener, [opener, parent, t](int code, QProcess::ExitStatus status) {
+        opener->deleteLater();
+        if (status != QProcess::NormalExit || code != 0)
+            TellNotOpened(parent, t);
+    });
+    QObject::connect(opener, &QProcess::errorOccurred, opener, [opener, parent, t](QProcess::ProcessError e) {
+        if (e != QProcess::FailedToStart)
+            return;
+        opener->deleteLater();
+        TellNotOpened(parent, t);
+    });
+    opener->start(QString::fromUtf8(kOpener), {url.toString()});
+    return true;
 }
 
 void QtPort::setClipboard(std::string_view text)

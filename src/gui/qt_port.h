@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QTimer;
 class QWidget;
 
 namespace tq::gui {
@@ -14,7 +15,8 @@ namespace tq::gui {
 class QtPort : public UiPort
 {
   public:
-    explicit QtPort(QWidget* parent) : m_parent(parent) {}
+    explicit QtPort(QWidget* parent);
+    ~QtPort() override;
 
     void message(std::string_view text, std::string_view title, Icon icon) override;
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) override;
@@ -45,10 +47,14 @@ class QtPort : public UiPort
     std::function<void(int, int)> onSelectRow;
     std::function<void()> onEntriesChanged;
     std::function<void()> onHidePreviews;
+    /// Called with true when the busy pointer has stood for half a second, and
+    /// with false when it goes: the window shows a progress line meanwhile.
+    std::function<void(bool)> onLongWait;
 
   private:
     QWidget* m_parent;
     bool m_busy = false;
+    QTimer* m_longWait = nullptr;
 };
 
 } // namespace tq::gui

@@ -21,8 +21,15 @@ StartPage::StartPage(const CommandHandler& handler, QWidget* parent) : QWidget(p
     banner->setObjectName("StartBanner");
     banner->setStyleSheet("#StartBanner { background: qlineargradient(x1:0, y1:0, x2:1, y2:1,"
                           " stop:0 #1f4e79, stop:1 #2e86ab); }");
-    auto* bl = new QVBoxLayout(banner);
-    bl->setContentsMargins(48, 48, 48, 48);
+    // the content keeps a readable width and stands in the middle of a large window
+    auto* outer = new QHBoxLayout(banner);
+    outer->setContentsMargins(48, 48, 48, 48);
+    auto* content = new QWidget;
+    content->setObjectName("StartContent");
+    content->setMaximumWidth(980);
+    outer->addWidget(content, 1, Qt::AlignHCenter);
+    auto* bl = new QVBoxLayout(content);
+    bl->setContentsMargins(0, 0, 0, 0);
     bl->addStretch(2);
     auto* title = new QLabel("Tarnquill");
     title->setObjectName("StartTitle");

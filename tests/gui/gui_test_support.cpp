@@ -80,10 +80,11 @@ QString StartedWindow::useWebFolder()
     const QString web = docs.filePath("web");
     QDir().mkpath(web);
     auto& setup = w->session().store.pages[0][0].AttributeText;
-    const auto at = setup.find("c:\\users");
+    const std::string site = w->session().settings.DefaultDriveFolder;
+    const auto at = setup.find(site);
     if (at == std::string::npos)
         return {};
-    setup.replace(at, 8, web.toStdString());
+    setup.replace(at, site.size(), web.toStdString());
     for (auto mark = setup.find("=;"); mark != std::string::npos; mark = setup.find("=;"))
         setup.erase(mark + 1, 1);
     return web;
