@@ -7,9 +7,9 @@
 
 #include <QEvent>
 #include <QFrame>
-#include <QKeyEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>

@@ -14,16 +14,16 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
-#include <QHBoxLayout>
-#include <QSplitter>
-#include <QTimer>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSplitter>
 #include <QStringListModel>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineView>
 

@@ -49,8 +49,7 @@ void MainWindow::runBuild(bool wholePage)
     const int check = ++m_scriptChecks;
     auto warning = std::make_shared<std::string>();
     RunStepWithoutWaiting(
-        this,
-        [this, warning](UiPort& port) { *warning = shell::CheckPublishedScript(m_session.build, port).warning; },
+        this, [this, warning](UiPort& port) { *warning = shell::CheckPublishedScript(m_session.build, port).warning; },
         [this, warning, check] {
             if (check == m_scriptChecks)
                 finalPage()->setPublishWarning(QString::fromStdString(*warning));

@@ -13,8 +13,8 @@ QColor CoreColor(long color)
 
 void PaintSwatch(QWidget* swatch, long color)
 {
-    swatch->setStyleSheet(QString("#%1 { background: %2; border: 1px solid #666; }")
-                              .arg(swatch->objectName(), CoreColor(color).name()));
+    swatch->setStyleSheet(
+        QString("#%1 { background: %2; border: 1px solid #666; }").arg(swatch->objectName(), CoreColor(color).name()));
     swatch->setToolTip(CoreColor(color).name());
 }
 

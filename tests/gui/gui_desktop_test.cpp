@@ -101,8 +101,8 @@ class DesktopTest : public QObject
             int key;
             Qt::KeyboardModifiers mods;
         } keys[] = {{Qt::Key_N, Qt::ControlModifier}, {Qt::Key_O, Qt::ControlModifier},
-                    {Qt::Key_S, Qt::ControlModifier},  {Qt::Key_B, Qt::ControlModifier},
-                    {Qt::Key_F5, Qt::NoModifier},      {Qt::Key_F1, Qt::NoModifier},
+                    {Qt::Key_S, Qt::ControlModifier}, {Qt::Key_B, Qt::ControlModifier},
+                    {Qt::Key_F5, Qt::NoModifier},     {Qt::Key_F1, Qt::NoModifier},
                     {Qt::Key_Q, Qt::ControlModifier}};
         for (const auto& k : keys)
             QTest::keyClick(&w, static_cast<Qt::Key>(k.key), k.mods);
