@@ -88,7 +88,7 @@ class PhotoShowPageTest : public QObject
             QVERIFY(colour.done());
         }
         QCOMPARE(s.photoShow.settings.BackgroundColor, 0x302010L);
-        QVERIFY(Child<QFrame>(&page, "BackgroundSample")->styleSheet().contains("rgb(16, 32, 48)"));
+        QVERIFY(Child<QFrame>(&page, "BackgroundSample")->styleSheet().contains("#102030"));
         // commands that need a build wait for one; the recent slots keep their names
         QVERIFY(!Child<QPushButton>(&page, "ViewShowLive")->isEnabled());
         QVERIFY(page.findChild<QAction*>("History100"));
