@@ -284,7 +284,6 @@ void MainWindow::applyMenuKeys()
         }
     }
 }
-}
 
 void MainWindow::registerCommand(const QString& name, std::function<void()> run)
 {

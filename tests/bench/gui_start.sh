@@ -18,7 +18,7 @@ export DISPLAY=$display HOME=$scratch/home
 
 mapped() {
     local id
-    id=$(xwininfo -root -tree 2>/dev/null | awk '/ Tarnquill": \("tarnquill"/ { print $1; exit }')
+    id=$(xwininfo -root -tree 2>/dev/null | awk '/Tarnquill": \("tarnquill"/ { print $1; exit }')
     [ -n "$id" ] && xwininfo -id "$id" 2>/dev/null | grep -q IsViewable
 }
 

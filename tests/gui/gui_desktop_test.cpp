@@ -66,7 +66,7 @@ class DesktopTest : public QObject
         test::StartedWindow app;
         MainWindow& w = *app.w;
         QVERIFY(app.started);
-        QCOMPARE(w.windowTitle(), QString::fromUtf8("Untitled \u2014 Tarnquill"));
+        QCOMPARE(w.windowTitle(), QString("Tarnquill"));
         app.put(1, 1, "Name");
         QCOMPARE(w.windowTitle(), QString::fromUtf8("*Untitled \u2014 Tarnquill"));
 

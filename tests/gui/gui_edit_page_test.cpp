@@ -60,22 +60,22 @@ class EditPageTest : public QObject
         QCOMPARE(edit->findChild<QLabel*>("lblEditCaption")->text(),
                  QString("Make your changes for Name and then select Exit"));
         test::SaveScreenshot(&w, "edit_page_name");
-        // the caption of what is shown stands in front of the program's name
-        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 Tarnquill"));
+        // the caption of what is shown stands in front of the file's name (the rows are not saved)
+        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 *Untitled \u2014 Tarnquill"));
         const int title = edit->rowOf("Title");
         edit->findChild<QPushButton*>(QString("Edit%1").arg(title))->click();
         auto* window = edit->editWindow();
         QVERIFY(window->isVisible());
-        QCOMPARE(w.windowTitle(), QString("EDIT WINDOW \u2014 Tarnquill"));
+        QCOMPARE(w.windowTitle(), QString("EDIT WINDOW \u2014 *Untitled \u2014 Tarnquill"));
         QCOMPARE(window->editor()->toPlainText(), QString("Enter your full name"));
         window->editor()->setPlainText("Your full name\nplease");
         test::SaveScreenshot(&w, "edit_window");
         window->findChild<QPushButton*>("ExitEditWindow")->click();
         QVERIFY(!window->isVisible());
-        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 Tarnquill"));
+        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 *Untitled \u2014 Tarnquill"));
         QVERIFY(test::Trigger(&w, "Exit"));
         QCOMPARE(w.currentView(), tq::View::Page1);
-        QCOMPARE(w.windowTitle(), QString("Tarnquill"));
+        QCOMPARE(w.windowTitle(), QString("*Untitled \u2014 Tarnquill"));
         QVERIFY(app.at(1, 1).AttributeText.find("[Title=Your full name\\nplease]\r\n") != std::string::npos);
         QVERIFY(app.at(1, 1).highlight == tq::model::Highlight::Green);
         auto* model = w.createPage(1)->model();
