@@ -350,7 +350,7 @@ class CreatePageTest : public QObject
                  QString("Click here to add or remove a background picture to your Form or Survey"));
         background->click();
         QCOMPARE(w.currentView(), tq::View::EditPage);
-        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 Tarnquill"));
+        QCOMPARE(w.windowTitle(), QString("EDIT PAGE \u2014 *Untitled \u2014 Tarnquill"));
     }
 };
 
