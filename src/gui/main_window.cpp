@@ -25,6 +25,7 @@
 #include <QQuickWidget>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTimer>
 #include <algorithm>
 
 namespace tq::gui {
@@ -88,6 +89,14 @@ MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
     collectActions();
     makeShortcuts();
     m_stack->setCurrentWidget(m_start);
+    // the recovery copy follows the rows; never in the middle of a command,
+    // when the rows may be half-way through a change
+    m_recoveryTimer = new QTimer(this);
+    m_recoveryTimer->setInterval(500);
+    connect(m_recoveryTimer, &QTimer::timeout, this, [this] {
+        if (!m_inCommand)
+            store::KeepRecovery(m_recovery, m_session);
+    });
     resize(1280, 800);
     setMinimumSize(960, 600);
 }
@@ -126,6 +135,9 @@ bool MainWindow::start()
     showView(View::StartPage);
     store::RefreshStatus(s);
     refreshAll();
+    store::StartRecovery(m_recovery, s, *m_port, projectHooks());
+    refreshAll();
+    m_recoveryTimer->start();
     return true;
 }
 
@@ -343,6 +355,8 @@ void MainWindow::confirmExit()
 
 void MainWindow::endProgram()
 {
+    m_recoveryTimer->stop();
+    store::KeepRecovery(m_recovery, m_session);
     if (onExit) {
         onExit();
         return;

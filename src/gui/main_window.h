@@ -6,6 +6,7 @@
 #include "port/ui_port.h"
 #include "session.h"
 #include "store/project_file.h"
+#include "store/recovery.h"
 
 #include <QHash>
 #include <QMainWindow>
@@ -19,6 +20,7 @@ class QAction;
 class QShortcut;
 class QLabel;
 class QKeySequence;
+class QTimer;
 
 namespace tq::gui {
 
@@ -155,6 +157,8 @@ class MainWindow : public QMainWindow
     bool m_inCommand = false;
     bool m_buildFinished = false; // the build asked for the final page
     int m_scriptChecks = 0;       // the php check of the newest build
+    store::RecoveryKeeper m_recovery;
+    QTimer* m_recoveryTimer = nullptr;
 };
 
 } // namespace tq::gui

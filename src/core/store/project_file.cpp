@@ -13,6 +13,17 @@ namespace {
 
 constexpr std::string_view kCrLf = "\r\n";
 
+/// A name typed without an extension gets the mode's, so that Open finds it;
+/// any other name is kept as typed.
+std::string WithProjectExtension(const std::string& name, std::string_view extension)
+{
+    const size_t slash = name.find_last_of("/\\");
+    const size_t dot = name.find_last_of('.');
+    if (dot != std::string::npos && (slash == std::string::npos || dot > slash))
+        return dot + 1 == name.size() ? name + model::ToLower(extension) : name;
+    return name + "." + model::ToLower(extension);
+}
+
 std::string ExistQuestion(std::string_view name)
 {
     // two blanks ahead of "already", as the program always asked
@@ -141,7 +152,7 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
         s.run.busyMark = kIdle;
         return false;
     }
-    const std::string name = *chosen;
+    const std::string name = WithProjectExtension(*chosen, extension);
     // the dialog's name is the current project name from here on
     s.run.CurrentProjectName = name;
     if (model::ToUpper(name).find(".FMS") != std::string::npos)
@@ -162,6 +173,7 @@ bool SaveProject(Session& s, UiPort& ui, std::string_view extension)
     }
     s.store.state.CurrentFileName = name;
     s.run.savedRows = rows;
+    ++s.run.projectSaves;
     UpdateRecentList(s, ui);
     RefreshStatus(s);
     s.run.busyMark = kIdle;
@@ -174,6 +186,9 @@ int OpenProject(
     auto& state = s.store.state;
     ui.hidePreviews();
     state.LoadPending = true;
+    // the clear prompt may empty the rows before the file is chosen: a
+    // cancelled or failed open puts them back
+    const model::PageRows before = s.store.pages;
 
     auto clearPromptKept = [&] {
         state.AbortFlag = 0;
@@ -208,6 +223,9 @@ int OpenProject(
     auto fail = [&] {
         s.run.busyMark = kIdle;
         s.run.LoadInProgress = false;
+        s.store.pages = before;
+        model::RefreshEditMarkers(s.store);
+        ui.entriesChanged();
         ui.showView(ViewOfPageNumber(sourcePage, View::Page1));
         return 1;
     };
@@ -248,6 +266,7 @@ int OpenProject(
     s.run.LoadInProgress = false;
     state.CurrentFileName = path;
     MarkSaved(s);
+    ++s.run.projectSaves;
     ui.entriesChanged();
     RefreshStatus(s);
     UpdateRecentList(s, ui);

@@ -53,7 +53,8 @@ std::string ReadAttributeBlock(LineReader& in);
 void ReadEntries(model::EntryStore& store, LineReader& in);
 
 /// SaveProject(extension): the SaveForm / SaveSurvey commands ("fms" or
-/// "srv"). Asks for the name, asks FILE EXIST over an existing file, writes
+/// "srv"). Asks for the name (a name typed without an extension gets
+/// `extension`), asks FILE EXIST over an existing file, writes
 /// the final layout beside the target and renames it over, then updates the
 /// recent list and the status. Returns true when a file was written; a
 /// cancelled dialog, a No or a failed write return false with no message.
@@ -71,7 +72,8 @@ bool HasUnsavedChanges(const Session& s);
 /// start page, 2 to 5 the four Pages. With fromRecentList the caller has put
 /// the menu caption into CurrentProjectName. Returns 0 when the file was
 /// read, 1 when the open ended early (entries kept, Cancel, an unreadable
-/// file); no message is shown for a failure.
+/// file); no message is shown for a failure. Rows cleared by the clear prompt
+/// of an open that ends early come back as they were.
 int OpenProject(Session& s,
                 UiPort& ui,
                 int sourcePage,

@@ -44,6 +44,7 @@ struct RunValues
     bool LoadInProgress = false;    // from the open dialog to the end of a load
     int previewCaller = 0;          // 9: the preview window was opened from the final page
     std::string savedRows;          // the rows as the last open or save left them (WriteEntries)
+    int projectSaves = 0;           // counts the saves and opens that put the rows in step with a file
 
     // Run defaults that the start and a restore of defaults set.
     std::string GlobalFont = "arial";
