@@ -164,11 +164,7 @@ void MainWindow::quickPreview(int page, int pickIndex)
         auto c = editContext();
         // under QuickPreviewActive the add fills the preview slots, no row
         if (model::AddToFirstFreeRow(c, page, pickIndex) || !state.PreviewSlots[0].InputTypeName.empty()) {
-            s.build.entryPreview = true;
-            s.build.wholePage = true;
-            compose::BuildOutput(s, *m_port, 0);
-            s.build.entryPreview = false;
-            s.build.wholePage = false;
+            compose::BuildOutput(s, *m_port, {compose::BuildKind::EntryPreview});
         } else {
             s.build.buildError = 1;
         }

@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     std::string bytes(reinterpret_cast<const char*>(data), size);
     tq::store::SetupStore setup;
-    tq::store::ReadSetupFields(setup, bytes);
+    static_cast<void>(tq::store::ReadSetupFields(setup, bytes));
     tq::store::ApplySetupMenus(setup);
     const std::string written = tq::store::SaveSetupFields(setup);
     tq::store::SetupStore back;

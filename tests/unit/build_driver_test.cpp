@@ -73,7 +73,7 @@ TEST(BuildDriver, AMissingWebFolderGivesPathErrorAndOpensTheSetupEntry)
     const std::string missing = p.web.file("gone");
     p.s->store.pages[0][0].AttributeText = tq::test::SetupEntryText(missing);
     ScriptedPort port;
-    BuildOutput(*p.s, port, 1);
+    BuildOutput(*p.s, port, {});
     EXPECT_EQ(p.s->build.buildError, 1);
     ASSERT_EQ(port.shown.size(), 1u);
     EXPECT_TRUE(
@@ -92,7 +92,7 @@ TEST(BuildDriver, AnEmptyFolderOrAReminderPastOneAsksNothing)
 {
     Project p;
     ScriptedPort port;
-    BuildOutput(*p.s, port, 1);
+    BuildOutput(*p.s, port, {});
     EXPECT_EQ(p.s->build.buildError, 0);
     EXPECT_TRUE(port.messages().empty());
     EXPECT_EQ(p.s->build.formAction, "formtql.php");
@@ -101,7 +101,7 @@ TEST(BuildDriver, AnEmptyFolderOrAReminderPastOneAsksNothing)
     WriteFileBytes(p.html(), "old page");
     WriteFileBytes(p.php(), "old script");
     p.s->build.reminderCounter = 2;
-    BuildOutput(*p.s, port, 1);
+    BuildOutput(*p.s, port, {});
     EXPECT_TRUE(port.shown.empty());
     EXPECT_EQ(ReadFileBytes(p.html()), kPageOfSetupOnly);
     EXPECT_NE(ReadFileBytes(p.php()), "old script");
@@ -115,7 +115,7 @@ TEST(BuildDriver, ExistingFilesAreReplacedAfterNoToTheFolderAndYesToTheDuplicate
     ScriptedPort port;
     port.answer(Answer::No);
     port.answer(Answer::Yes);
-    BuildOutput(*p.s, port, 1);
+    BuildOutput(*p.s, port, {});
     ASSERT_EQ(port.shown.size(), 2u);
     const auto& folder = port.shown[0];
     EXPECT_EQ(folder.title, "EDIT SETUP");
@@ -153,7 +153,7 @@ TEST(BuildDriver, OtherAnswersKeepTheOldFiles)
         ScriptedPort port;
         for (Answer a : c.answers)
             port.answer(a);
-        BuildOutput(*p.s, port, 1);
+        BuildOutput(*p.s, port, {});
         EXPECT_EQ(p.s->build.cancelled, c.answers.back() == Answer::Cancel);
         EXPECT_EQ(p.s->build.buildError, p.s->build.cancelled ? 0 : 1);
         ASSERT_EQ(port.shown.size(), c.shown);
@@ -171,12 +171,9 @@ TEST(BuildDriver, PreviewWritesToTheDataFolderAndLeavesTheWebFolderAlone)
 {
     Project p;
     WriteFileBytes(p.html(), "old page");
-    p.s->build.entryPreview = true;
-    p.s->build.editPreview = true;
-    p.s->build.wholePage = true;
     p.s->store.state.PreviewSlots[0] = {"Blank Line", "[New Line=0]\r\n"};
     ScriptedPort port;
-    BuildOutput(*p.s, port, 0);
+    BuildOutput(*p.s, port, {tq::compose::BuildKind::EditPreview});
     EXPECT_EQ(p.s->build.buildError, 0);
     EXPECT_TRUE(port.shown.empty());
     const std::string page = ReadFileBytes(p.data.file("Preview.htm"));
@@ -250,7 +247,7 @@ TEST(WholeBuild, ACountPastItsTableStopsWithAnInternalError)
     Project p;
     p.add(1, "Blank Line", "[New Line=40000] [Info: n]\r\n");
     ScriptedPort port;
-    BuildOutput(*p.s, port, 1);
+    BuildOutput(*p.s, port, {});
     EXPECT_EQ(p.s->build.buildError, 1);
     ASSERT_FALSE(port.messages().empty());
     EXPECT_EQ(port.messages().back().title, "INTERNAL ERROR");

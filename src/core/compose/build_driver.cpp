@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -29,14 +28,20 @@ bool EndsInSeparator(std::string_view folder)
     return !folder.empty() && (folder.back() == '/' || folder.back() == '\\');
 }
 
-// "Leave": every file closed, the pointer restored, the in-progress flags cleared.
-void Leave(Session& s, UiPort& ui)
+// "Leave": every file closed, the pointer restored, the in-progress flags
+// cleared, on every way out of a build.
+struct LeaveGuard
 {
-    s.build.channels.closeAll();
-    s.build.inProgress = false;
-    s.store.state.SwitchInProgress = false;
-    ui.setBusy(false);
-}
+    Session& s;
+    UiPort& ui;
+    ~LeaveGuard()
+    {
+        s.build.channels.closeAll();
+        s.build.inProgress = false;
+        s.store.state.SwitchInProgress = false;
+        ui.setBusy(false);
+    }
+};
 
 // ---------------------------------------------------------------------------
 // Steps that belong to other parts of the build. Each is a small named call so
@@ -95,9 +100,7 @@ bool TouchHtmlFile(BuildState& b, UiPort& ui)
         if (out.is_open())
             return true;
     }
-    const int code = errno;
-    ui.message(std::string(std::strerror(code != 0 ? code : EACCES)) + " when opening " + b.htmlPath,
-               "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+    ReportFileFault(ui, FileStep::Opening, errno, b.htmlPath);
     b.endProgram = true;
     return false;
 }
@@ -110,8 +113,7 @@ bool WriteFailed(BuildState& b, UiPort& ui, int channel)
     const LineWriter& out = b.channels[channel];
     if (out.good())
         return false;
-    ui.message(std::string(std::strerror(out.error() != 0 ? out.error() : EIO)) + " when writing " + out.path(),
-               "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+    ReportFileFault(ui, FileStep::Writing, out.error(), out.path());
     b.buildError = 1;
     return true;
 }
@@ -272,8 +274,7 @@ void CreateHTMHeader(Session& s, UiPort& ui, int& abort)
 
     b.channels.closeAll();
     if (!b.channels[1].open(b.htmlPath)) {
-        ui.message(std::string(std::strerror(errno != 0 ? errno : EACCES)) + " when opening " + b.htmlPath,
-                   "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+        ReportFileFault(ui, FileStep::Opening, errno, b.htmlPath);
         b.endProgram = true;
         abort = 1;
         return;
@@ -317,15 +318,13 @@ void PhpPass(Session& s, UiPort& ui)
     b.channels.closeAll();
     const std::string downTemp = platform::JoinPath(s.DataFolder, "\\downtemp.txt");
     if (!b.channels[1].open(b.phpPath)) {
-        ui.message(std::string(std::strerror(errno != 0 ? errno : EACCES)) + " when opening " + b.phpPath,
-                   "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+        ReportFileFault(ui, FileStep::Opening, errno, b.phpPath);
         b.buildError = 1;
         return;
     }
     WriteScriptHead(s, ui);
     if (!b.channels[2].open(downTemp)) {
-        ui.message(std::string(std::strerror(errno != 0 ? errno : EACCES)) + " when opening " + downTemp,
-                   "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
+        ReportFileFault(ui, FileStep::Opening, errno, downTemp);
         b.buildError = 1;
         return;
     }
@@ -344,17 +343,17 @@ void PhpPass(Session& s, UiPort& ui)
     WriteScriptTail(s, ui);
 }
 
-void BuildOutput(Session& s, UiPort& ui, int mode)
+namespace {
+
+// The run of the driver proper, with the flags of the request set.
+void RunBuild(Session& s, UiPort& ui)
 {
     auto& b = s.build;
+    const LeaveGuard leave{s, ui};
     try {
         // 1
         b.buildError = 0;
         ui.setBusy(true);
-        if (mode == 1) {
-            b.entryPreview = false;
-            b.editPreview = false;
-        }
         b.inProgress = true;
         s.store.state.SwitchInProgress = true;
 
@@ -366,7 +365,6 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
                 b.channels.closeAll();
                 ShowPathError(ui, folder);
                 b.buildError = 1;
-                Leave(s, ui);
                 return;
             }
         }
@@ -398,7 +396,6 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
         // 9
         if (b.setupHold || b.cancelled) {
             b.passActive = false;
-            Leave(s, ui);
             return;
         }
         if (b.buildError == 1) {
@@ -407,7 +404,6 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
             if (b.folderJump > 0)
                 ui.openEditPage(1, 0, "DRIVE FOLDER PATH");
             b.folderJump = 0;
-            Leave(s, ui);
             return;
         }
 
@@ -416,12 +412,10 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
         b.channels.closeAll();
         if (WriteFailed(b, ui, 1)) {
             b.passActive = false;
-            Leave(s, ui);
             return;
         }
         if (b.entryPreview) {
             b.passActive = false;
-            Leave(s, ui);
             return;
         }
 
@@ -429,41 +423,54 @@ void BuildOutput(Session& s, UiPort& ui, int mode)
         PhpPass(s, ui);
         if (b.buildError == 1) {
             b.passActive = false;
-            Leave(s, ui);
             return;
         }
 
         // 14
         b.channels.closeAll();
         b.passActive = false;
-        if (WriteFailed(b, ui, 1)) {
-            Leave(s, ui);
+        if (WriteFailed(b, ui, 1))
             return;
-        }
         if (!b.editPreview)
             ShowInstructions(s, ui);
-        Leave(s, ui);
     } catch (const model::InternalError& e) {
         b.channels.closeAll();
         b.buildError = 1;
         b.passActive = false;
         ui.message(e.what(), "INTERNAL ERROR", Icon::Critical);
-        Leave(s, ui);
     }
 }
 
-void BuildWholePage(Session& s, UiPort& ui, int mode)
+} // namespace
+
+void BuildOutput(Session& s, UiPort& ui, BuildRequest request)
+{
+    auto& b = s.build;
+    if (request.kind == BuildKind::Files) {
+        b.entryPreview = false;
+        b.editPreview = false;
+        RunBuild(s, ui);
+        return;
+    }
+    b.wholePage = true;
+    b.entryPreview = true;
+    if (request.kind == BuildKind::EditPreview)
+        b.editPreview = true;
+    RunBuild(s, ui);
+    b.entryPreview = false;
+    b.wholePage = false;
+}
+
+void BuildWholePage(Session& s, UiPort& ui)
 {
     auto& b = s.build;
     b.buildError = 0;
     ui.setBusy(true);
-    if (mode == 1) {
-        b.entryPreview = false;
-        b.editPreview = false;
-    }
+    b.entryPreview = false;
+    b.editPreview = false;
     model::ClearHighlights(s.store);
     b.wholePage = true;
-    BuildOutput(s, ui, 1);
+    BuildOutput(s, ui, {});
     if (!b.setupHold && !b.cancelled) {
         b.wholePage = false;
         ui.setBusy(false);
@@ -473,13 +480,13 @@ void BuildWholePage(Session& s, UiPort& ui, int mode)
 void CreateFormOnly(Session& s, UiPort& ui)
 {
     s.build.setupHold = false;
-    BuildOutput(s, ui, 1);
+    BuildOutput(s, ui, {});
 }
 
 void CreateFormHTMLCode(Session& s, UiPort& ui)
 {
     s.build.setupHold = false;
-    BuildWholePage(s, ui, 1);
+    BuildWholePage(s, ui);
 }
 
 } // namespace tq::compose

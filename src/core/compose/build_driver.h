@@ -45,15 +45,28 @@ void HtmlPass(Session& s, UiPort& ui);
 /// The PHP pass: the head of the script, every Entry with pass 2, the body.
 void PhpPass(Session& s, UiPort& ui);
 
-/// The driver. Mode 1 is a real build and clears both preview flags; any
-/// other mode keeps the preview flags as the caller set them. Every way out
+/// What a run of the driver makes.
+enum class BuildKind {
+    Files,        // the HTML and PHP files of the project; clears both preview flags
+    EntryPreview, // the Entry in the preview slots, as a whole page, no PHP
+    EditPreview,  // the same from the edit page: no publishing instructions afterwards
+};
+
+/// A request to the driver.
+struct BuildRequest
+{
+    BuildKind kind = BuildKind::Files;
+};
+
+/// The driver. A preview sets the preview flags and the whole page for the
+/// run and clears `entryPreview` and `wholePage` afterwards. Every way out
 /// closes all channels and restores the pointer. A bound fault of a working
 /// list is caught, told under "INTERNAL ERROR" and ends the build with
 /// `buildError` 1.
-void BuildOutput(Session& s, UiPort& ui, int mode);
+void BuildOutput(Session& s, UiPort& ui, BuildRequest request);
 
-/// CreateFormHTMLCode: a build of a whole page (html and body tags).
-void BuildWholePage(Session& s, UiPort& ui, int mode);
+/// CreateFormHTMLCode: a build of the files as a whole page (html and body tags).
+void BuildWholePage(Session& s, UiPort& ui);
 
 /// The command CreateFormOnly: clears `setupHold` and builds the fragment.
 void CreateFormOnly(Session& s, UiPort& ui);

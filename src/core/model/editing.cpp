@@ -201,13 +201,15 @@ void InsertAtRow(EditContext& c, int page, int row, int pickIndex)
         sourceText = from ? from->AttributeText : std::string();
         if (Trim(source).empty())
             return stop();
-        // moved text is already in its stored form
+        // moved text is already in its stored form; the Followup's template
+        // goes in unnormalized too while the drag lasts
         SetInputTypeName(c.store, page, row, source);
-        GetEntry(c.store, page, row).AttributeText = sourceText;
+        SetAttributeText(c.store, c.ui, page, row, sourceText, Stored::AsIs);
         const std::string_view followup = FollowupFor(source);
         if (!followup.empty()) {
             SetInputTypeName(c.store, page, row + 1, std::string(followup));
-            SetAttributeText(c.store, c.ui, page, row + 1, FollowupTemplate(c.catalogue, followup, st.ProjectMode));
+            SetAttributeText(c.store, c.ui, page, row + 1, FollowupTemplate(c.catalogue, followup, st.ProjectMode),
+                             Stored::AsIs);
         }
     } else
         StorePair(c, page, row, source, sourceText);

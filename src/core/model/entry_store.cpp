@@ -77,11 +77,11 @@ void SetInputTypeName(EntryStore& store, int page, int row, std::string text)
     GetEntry(store, page, row).InputTypeName = std::move(text);
 }
 
-void SetAttributeText(EntryStore& store, UiPort& ui, int page, int row, std::string_view text)
+void SetAttributeText(EntryStore& store, UiPort& ui, int page, int row, std::string_view text, Stored how)
 {
     Entry& e = GetEntry(store, page, row);
-    if (store.state.DragSource > 98)
-        e.AttributeText = std::string(text); // moved from another row: already in its stored form
+    if (how == Stored::AsIs)
+        e.AttributeText = std::string(text);
     else
         e.AttributeText = NormalizeAttributeText(ui, text);
 }

@@ -57,7 +57,6 @@ struct StateRecord
     bool LoadPending = false;  // the opening marker: the clear prompt runs on behalf of an open
     int commitMode = 0;        // 10 while Exit of the edit page commits, 11 during an Entry preview, else 0
     bool CommitFailed = false; // a line check of the edit page refused the commit
-    int buildError = 0;
 };
 
 using PageRows = std::array<std::array<Entry, kRowsPerPage>, kPageCount>;
@@ -108,10 +107,16 @@ const Entry& GetEntry(const EntryStore& store, int page, int row);
 /// Sets a row's InputTypeName as given.
 void SetInputTypeName(EntryStore& store, int page, int row, std::string text);
 
-/// Stores `text` through NormalizeAttributeText (its messages go to `ui`),
-/// unless a row is being dragged (DragSource above 98): moved text is already
-/// in its stored form and goes in as it is.
-void SetAttributeText(EntryStore& store, UiPort& ui, int page, int row, std::string_view text);
+/// How SetAttributeText stores a text.
+enum class Stored {
+    Normalized, // through NormalizeAttributeText
+    AsIs,       // already in its stored form (a row moved by dragging)
+};
+
+/// Stores `text` in a row, through NormalizeAttributeText (its messages go
+/// to `ui`) unless `how` is Stored::AsIs.
+void SetAttributeText(
+    EntryStore& store, UiPort& ui, int page, int row, std::string_view text, Stored how = Stored::Normalized);
 
 /// Counts the rows whose InputTypeName is not exactly empty (a row of blanks
 /// counts), the SetupEntry included; rows 0 to 24, and Pages 1 to 4 in each.

@@ -112,7 +112,6 @@ bool ReorderEntries(EntryStore& store, UiPort& ui)
                     ui.message("Order number must be greater then 0 and contain a number from 1 to " +
                                    std::to_string(maxEntries),
                                "ORDER ERROR", Icon::Critical);
-                    st.buildError = 1;
                     return false;
                 }
                 const auto at = static_cast<size_t>(RowOrdinal(page, row) - 1);

@@ -15,7 +15,7 @@ double LeadingNumber(std::string_view text);
 /// Sorts the filled rows of all four Pages by their ReferenceNumber, compacts
 /// them from row 0 of Page 1 and numbers all 100 rows anew. Under OrderPrompt
 /// it asks first (and clears the flag); No changes nothing. A number of 0 on
-/// any row, filled or empty, shows ORDER ERROR, sets buildError and changes
+/// any row, filled or empty, shows ORDER ERROR and changes
 /// no row; numbers above MaxEntries are cut to it; equal numbers keep Page and
 /// row order; a fractional number matches no place and its row is lost.
 /// Unless SwitchInProgress, ends with NO CHANGES NEEDED or ORDER UPDATED,

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "port/ui_port.h"
 
+#include <cerrno>
+#include <cstring>
+#include <string>
+
 namespace tq {
 
 View ViewOfPageNumber(int number, View otherwise)
@@ -45,6 +49,15 @@ std::string ConvertLineBreaks(std::string_view text, std::string_view lineBreak)
         }
     }
     return out;
+}
+
+void ReportFileFault(UiPort& ui, FileStep step, int code, std::string_view path)
+{
+    const bool opening = step == FileStep::Opening;
+    if (code == 0)
+        code = opening ? EACCES : EIO;
+    ui.message(std::string(std::strerror(code)) + (opening ? " when opening " : " when writing ") + std::string(path),
+               "UNRECOVERABLE ERROR. CONTACT SUPPORT", Icon::Critical);
 }
 
 } // namespace tq

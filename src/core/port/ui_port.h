@@ -107,4 +107,13 @@ View ViewOfPageNumber(int number, View otherwise);
 /// Joins CR-separated message text with the given line break (a port's edge).
 std::string ConvertLineBreaks(std::string_view text, std::string_view lineBreak);
 
+/// What a file was being used for when it failed.
+enum class FileStep { Opening, Writing };
+
+/// The box of a file that could not be opened or written:
+/// "<reason> when opening <path>" (or "when writing") under
+/// "UNRECOVERABLE ERROR. CONTACT SUPPORT". `code` is the errno of the fault;
+/// 0 stands for EACCES when opening and EIO when writing.
+void ReportFileFault(UiPort& ui, FileStep step, int code, std::string_view path);
+
 } // namespace tq

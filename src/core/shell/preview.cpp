@@ -31,13 +31,8 @@ std::string PreviewEntry(Session& s, UiPort& ui, EditState& st)
             state.PreviewSlots[1] = {below.InputTypeName, below.AttributeText};
     }
     state.PreviewFromEdit = true;
-    b.wholePage = true;
-    b.editPreview = true;
-    b.entryPreview = true;
-    compose::BuildOutput(s, ui, st.EditPage + 1);
+    compose::BuildOutput(s, ui, {compose::BuildKind::EditPreview});
     const bool shown = b.buildError != 1;
-    b.entryPreview = false;
-    b.wholePage = false;
     state.PreviewFromEdit = false;
     return shown ? platform::JoinPath(s.DataFolder, "\\Preview.htm") : std::string();
 }

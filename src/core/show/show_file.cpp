@@ -182,7 +182,8 @@ bool OpenShow(Session& session, std::string_view path, UiPort& ui)
     std::optional<std::string> bytes = store::ReadWholeFile(name);
     if (!bytes)
         return false;
-    ReadShowText(*bytes, page.settings);
+    // a short file keeps the defaults of the fields it lacks
+    static_cast<void>(ReadShowText(*bytes, page.settings));
     ApplyFadeSwitch(page);
     page.OutputLine = ShowLink(page.settings);
     return true;

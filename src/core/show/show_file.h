@@ -16,7 +16,7 @@ std::string ShowFileText(const ShowSettings& settings);
 /// Reads the show file's lines in order into `settings`. A file that ends
 /// early leaves the remaining fields as they were; a 14th line that is not a
 /// decimal number ends the read there. Returns the number of fields set.
-int ReadShowText(std::string_view bytes, ShowSettings& settings);
+[[nodiscard]] int ReadShowText(std::string_view bytes, ShowSettings& settings);
 
 /// The path of a Recent menu entry: its caption from the drive mark on
 /// ("3. /home/me/a.shw" gives "/home/me/a.shw"); a caption with no mark stays whole.

@@ -71,7 +71,7 @@ std::string SaveSetupFields(const SetupStore& setup);
 /// ReadSetupFields: fills the fields from `bytes` in file order. Returns false
 /// when the file ends early; the fields read so far are filled, the rest keep
 /// their values.
-bool ReadSetupFields(SetupStore& setup, std::string_view bytes);
+[[nodiscard]] bool ReadSetupFields(SetupStore& setup, std::string_view bytes);
 
 /// ExportSetup: writes "\setup.imp" in `dataFolder` after FILE EXIST when it
 /// exists (No: ABORTED, resultFlag 1).

@@ -10,10 +10,10 @@ namespace tq::store {
 
 /// Reads a whole file as bytes; nullopt when it cannot be opened (missing, a
 /// folder, no permission).
-std::optional<std::string> ReadWholeFile(const std::string& path);
+[[nodiscard]] std::optional<std::string> ReadWholeFile(const std::string& path);
 
 /// True when the file can be opened for reading.
-bool FileReadable(const std::string& path);
+[[nodiscard]] bool FileReadable(const std::string& path);
 
 /// Splits file bytes into lines. A line ends at LF, and a CR in front of the
 /// LF belongs to the line end, so CR LF and lone LF files read alike. A last
