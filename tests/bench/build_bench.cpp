@@ -92,6 +92,20 @@ std::unique_ptr<Session> MakeProject(bool survey, int count, const std::string& 
     return s;
 }
 
+/// The project of `count` rows, built once; nullptr after the reason went to
+/// `state` when that build stopped.
+std::unique_ptr<Session>
+BuildOnce(benchmark::State& state, bool survey, int count, const std::string& web, const std::string& data)
+{
+    KeepingPort ui;
+    auto s = MakeProject(survey, count, web, data);
+    compose::CreateFormOnly(*s, ui);
+    if (s->build.buildError == 0)
+        return s;
+    state.SkipWithError(ui.last.c_str());
+    return nullptr;
+}
+
 void BM_Build(benchmark::State& state, bool survey)
 {
     const int count = static_cast<int>(state.range(0));
@@ -99,14 +113,8 @@ void BM_Build(benchmark::State& state, bool survey)
     const std::string data = bench::MakeTempFolder("data");
     KeepingPort ui;
     // the first build makes the output files; later ones replace them
-    {
-        auto s = MakeProject(survey, count, web, data);
-        compose::CreateFormOnly(*s, ui);
-        if (s->build.buildError != 0) {
-            state.SkipWithError(ui.last.c_str());
-            return;
-        }
-    }
+    if (!BuildOnce(state, survey, count, web, data))
+        return;
     for (auto _ : state) {
         state.PauseTiming();
         auto s = MakeProject(survey, count, web, data);
@@ -137,13 +145,9 @@ void BM_Floor(benchmark::State& state, bool survey)
     const int count = static_cast<int>(state.range(0));
     const std::string web = bench::MakeTempFolder("web");
     const std::string data = bench::MakeTempFolder("data");
-    KeepingPort ui;
-    auto s = MakeProject(survey, count, web, data);
-    compose::CreateFormOnly(*s, ui);
-    if (s->build.buildError != 0) {
-        state.SkipWithError(ui.last.c_str());
+    const auto s = BuildOnce(state, survey, count, web, data);
+    if (!s)
         return;
-    }
     const std::string htmlPath = s->build.htmlPath;
     const std::string phpPath = s->build.phpPath;
     const std::string scratchPath = (std::filesystem::path(data) / "downtemp.txt").string();
