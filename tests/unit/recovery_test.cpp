@@ -41,7 +41,7 @@ TEST(Recovery, EveryByteComesBackAndAnythingLessThanAWholeCopyIsRefused)
     Session s;
     s.store.state.ProjectMode = "SURVEY";
     s.store.state.CurrentFileName = "/home/u/odd\nname 12:.srv";
-    Put(s, 1, 0, "Setup", std::string("[A=1]\r\n\0\xff\n3:x\n", 16));
+    Put(s, 1, 0, "Setup", std::string("[A=1]\r\n\0\xff\n3:x\n", 14)); // a NUL and a stray byte inside
     Put(s, 4, 24, "Email", "");
     At(s, 2, 3).ReferenceNumber = "42";
     const std::string text = store::RecoveryText(s);
