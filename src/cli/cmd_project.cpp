@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "compose/build_driver.h"
 #include "cmd_serve.h"
 #include "commands.h"
+#include "compose/build_driver.h"
 #include "console_port.h"
 #include "model/catalogue.h"
 #include "model/new_project.h"

@@ -124,9 +124,9 @@ struct PublishPort : ConsolePort
 
 int CmdSite(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err)
 {
-    const Parsed p = Parse(args, {"--protocol", "--host", "--port", "--user", "--key", "--remote-dir", "--url",
-                                  "--data-folder"},
-                           {"--password-stdin", "--trust"});
+    const Parsed p =
+        Parse(args, {"--protocol", "--host", "--port", "--user", "--key", "--remote-dir", "--url", "--data-folder"},
+              {"--password-stdin", "--trust"});
     if (!p.error.empty())
         return Usage(err, p.error, kSiteUsage);
     if (p.words.size() != 1)
@@ -157,9 +157,16 @@ int CmdSite(const std::vector<std::string>& args, std::istream& in, std::ostream
                           ? site.sent
                           : std::map<std::string, store::SentFile>{};
     const std::string pinned = site.host == *p.value("--host") ? site.pinnedKey : std::string();
-    site = store::SiteTarget{true,  *protocol, *p.value("--host"), *port, *p.value("--user"),
-                             OptionalValue(p, "--key").value_or(""), *p.value("--remote-dir"), *p.value("--url"),
-                             pinned, sent};
+    site = store::SiteTarget{true,
+                             *protocol,
+                             *p.value("--host"),
+                             *port,
+                             *p.value("--user"),
+                             OptionalValue(p, "--key").value_or(""),
+                             *p.value("--remote-dir"),
+                             *p.value("--url"),
+                             pinned,
+                             sent};
 
     const std::optional<std::string> password =
         p.flag("--password-stdin") ? std::optional<std::string>(ReadPassword(in)) : std::nullopt;
@@ -182,8 +189,8 @@ int CmdSite(const std::vector<std::string>& args, std::istream& in, std::ostream
         return 1;
     }
     out << "site " << *number << ": " << ProtocolName(site.protocol) << "://" << site.user << "@" << site.host
-        << (site.port > 0 ? ":" + std::to_string(site.port) : std::string()) << " " << site.remoteDir << " "
-        << site.url << "\n";
+        << (site.port > 0 ? ":" + std::to_string(site.port) : std::string()) << " " << site.remoteDir << " " << site.url
+        << "\n";
     return code;
 }
 

@@ -202,7 +202,8 @@ const std::string& FollowupTemplate(const Catalogue& catalogue, std::string_view
     const std::string upper = ToUpper(followup);
     for (size_t i = 0; i < kFollowupNames.size(); ++i)
         if (upper == ToUpper(kFollowupNames[i]))
-            return ModeOf(mode) == Mode::Survey ? catalogue.SurveyFollowupTemplates[i] : catalogue.FormFollowupTemplates[i];
+            return ModeOf(mode) == Mode::Survey ? catalogue.SurveyFollowupTemplates[i]
+                                                : catalogue.FormFollowupTemplates[i];
     return kNone;
 }
 

@@ -109,8 +109,7 @@ void WriteGeneralPhp(compose::BuildState& state, const model::InputType& type, s
     case PhpWriter::FollowupDropdown: {
         // With no field before it the first argument is empty ("$,"): the
         // script does not run. The edit and list checks guard against that.
-        const char* check =
-            type.php == PhpWriter::FollowupDropdown ? "validate_radio_notselected" : "validate_radio";
+        const char* check = type.php == PhpWriter::FollowupDropdown ? "validate_radio_notselected" : "validate_radio";
         out.line(TakePost(key));
         out.line(std::string(check) + "($" + state.lastConditionField + ",$" + key + "," + Q(msg) + ");");
         out.line("");

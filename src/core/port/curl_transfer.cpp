@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "port/curl_transfer.h"
 
+#include <array>
+#include <cstdio>
 #include <curl/curl.h>
+#include <memory>
 #include <openssl/evp.h>
 #include <openssl/pem.h>
 #include <openssl/x509.h>
-
-#include <array>
-#include <cstdio>
-#include <memory>
 #include <vector>
 
 namespace tq {
@@ -98,8 +97,7 @@ int CheckHostKey(CURL*, const curl_khkey*, const curl_khkey* found, curl_khmatch
 /// pin of its public key ("sha256//" and the base64 of the key's hash).
 bool CertificateIdentity(const std::string& pem, std::string& fingerprint, std::string& pin)
 {
-    std::unique_ptr<BIO, decltype(&BIO_free)> bio(BIO_new_mem_buf(pem.data(), static_cast<int>(pem.size())),
-                                                  &BIO_free);
+    std::unique_ptr<BIO, decltype(&BIO_free)> bio(BIO_new_mem_buf(pem.data(), static_cast<int>(pem.size())), &BIO_free);
     std::unique_ptr<X509, decltype(&X509_free)> cert(PEM_read_bio_X509(bio.get(), nullptr, nullptr, nullptr),
                                                      &X509_free);
     if (!cert)
@@ -341,7 +339,8 @@ struct ProgressContext
 int OnProgress(void* client, curl_off_t, curl_off_t, curl_off_t total, curl_off_t sent)
 {
     const auto* context = static_cast<ProgressContext*>(client);
-    if (*context->progress && !(*context->progress)(static_cast<std::uint64_t>(sent), static_cast<std::uint64_t>(total)))
+    if (*context->progress &&
+        !(*context->progress)(static_cast<std::uint64_t>(sent), static_cast<std::uint64_t>(total)))
         return 1;
     return 0;
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "publish/file_digest.h"
 
-#include <openssl/evp.h>
-
 #include <array>
 #include <fstream>
 #include <memory>
+#include <openssl/evp.h>
 
 namespace tq::publish {
 

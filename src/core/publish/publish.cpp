@@ -62,8 +62,8 @@ std::string FileUrl(const std::string& base, const std::string& name)
     if (url.empty() || url.back() != '/')
         url += '/';
     for (unsigned char c : name) {
-        const bool plain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-                           c == '-' || c == '_' || c == '.' || c == '~';
+        const bool plain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' ||
+                           c == '_' || c == '.' || c == '~';
         if (plain) {
             url += static_cast<char>(c);
         } else {
@@ -144,11 +144,9 @@ PublishReport Publish(Session& s,
         for (const auto& f : plan.files) {
             if (!f.changed)
                 continue;
-            const TransferResult r =
-                transfer.put(*login, f.localPath, f.name, TemporaryRemoteName(f.name),
-                             [&](std::uint64_t sent, std::uint64_t total) {
-                                 return !progress || progress(f.name, sent, total);
-                             });
+            const TransferResult r = transfer.put(
+                *login, f.localPath, f.name, TemporaryRemoteName(f.name),
+                [&](std::uint64_t sent, std::uint64_t total) { return !progress || progress(f.name, sent, total); });
             if (r.status == TransferStatus::Cancelled) {
                 report.lines.push_back("cancelled " + f.name);
                 return Stop(report, "Cancelled while sending " + f.name + "; the file on the server stays as it was.");
@@ -164,8 +162,7 @@ PublishReport Publish(Session& s,
             ++report.sent;
             report.lines.push_back("sent " + f.name + " (" + std::to_string(f.digest.size) + " bytes)");
             if (!store::WriteSites(s.DataFolder, sites))
-                ui.message("The site settings could not be written to the data folder.", "PUBLISH",
-                           Icon::Exclamation);
+                ui.message("The site settings could not be written to the data folder.", "PUBLISH", Icon::Exclamation);
         }
     }
 

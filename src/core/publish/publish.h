@@ -44,7 +44,7 @@ struct PublishOptions
 {
     int siteNumber = 0;               // 1 to 15
     std::vector<std::string> uploads; // the final page's list of files to upload
-    bool all = false;   // send every file, changed or not
+    bool all = false;                 // send every file, changed or not
     bool dryRun = false;
     std::optional<std::string> password; // given by the caller; else the keyring's or asked for
     bool trustShown = false;             // trust an unknown key or certificate without asking

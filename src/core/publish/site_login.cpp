@@ -13,11 +13,12 @@ std::string Where(const store::SiteTarget& site)
 bool AskTrust(const store::SiteTarget& site, const TransferResult& shown, UiPort& ui)
 {
     const bool sftp = site.protocol == Protocol::Sftp;
-    const std::string what = sftp ? "a host key that is not known yet" : "a certificate that no trusted authority signed";
+    const std::string what =
+        sftp ? "a host key that is not known yet" : "a certificate that no trusted authority signed";
     return ui.ask("The server " + Where(site) + " shows " + what + ":\r\r" + shown.fingerprint +
                       "\r\rCompare this fingerprint with the one your host gives you. Trust it and go on?",
-                  sftp ? "UNKNOWN HOST KEY" : "UNTRUSTED CERTIFICATE", Buttons::YesNo, Icon::Question, 2) ==
-           Answer::Yes;
+                  sftp ? "UNKNOWN HOST KEY" : "UNTRUSTED CERTIFICATE", Buttons::YesNo, Icon::Question,
+                  2) == Answer::Yes;
 }
 
 void TellFailure(const store::SiteTarget& site, const RemoteLogin& login, const TransferResult& r, UiPort& ui)
@@ -89,8 +90,7 @@ std::optional<RemoteLogin> LoginOf(const std::string& dataFolder,
     return login;
 }
 
-TransferResult
-Connect(RemoteLogin& login, store::SiteTarget& site, TransferPort& transfer, UiPort& ui, bool trustShown)
+TransferResult Connect(RemoteLogin& login, store::SiteTarget& site, TransferPort& transfer, UiPort& ui, bool trustShown)
 {
     if (site.protocol == Protocol::Ftp)
         ui.message("Plain FTP sends your password and your files as clear text: anyone on the way can read them. "
