@@ -96,14 +96,17 @@ std::optional<std::string> OptionalValue(const Parsed& p, const std::string& nam
     return v != nullptr ? std::optional<std::string>(*v) : std::nullopt;
 }
 
-/// Reads the sites file, telling why on `err` when it is damaged.
-bool LoadSites(const Session& s, store::SiteStore& sites, std::ostream& err)
+/// Sets the data folder from --data-folder and reads its sites file; returns
+/// the exit code to stop with (telling why on `err`), or 0.
+int OpenSites(const Parsed& p, Session& s, store::SiteStore& sites, std::ostream& err)
 {
+    if (const int code = SetDataFolder(s, OptionalValue(p, "--data-folder"), err); code != 0)
+        return code;
     std::string error;
     if (store::ReadSites(s.DataFolder, sites, error))
-        return true;
+        return 0;
     err << "tarnquill-cli: " << error << "\n";
-    return false;
+    return 1;
 }
 
 /// The console port that, like the desktop program, fills the final page
@@ -147,11 +150,9 @@ int CmdSite(const std::vector<std::string>& args, std::istream& in, std::ostream
         return Usage(err, "--key is for sftp only", kSiteUsage);
 
     auto s = std::make_unique<Session>();
-    if (const int code = SetDataFolder(*s, OptionalValue(p, "--data-folder"), err); code != 0)
-        return code;
     store::SiteStore sites;
-    if (!LoadSites(*s, sites, err))
-        return 1;
+    if (const int code = OpenSites(p, *s, sites, err); code != 0)
+        return code;
     store::SiteTarget& site = *store::SiteOfNumber(sites, *number);
     const auto sent = site.host == *p.value("--host") && site.remoteDir == *p.value("--remote-dir")
                           ? site.sent
@@ -210,11 +211,9 @@ int CmdPublish(const std::vector<std::string>& args, std::istream& in, std::ostr
         return Usage(err, "--site is a web folder from 1 to 15, not '" + *siteText + "'", kPublishUsage);
 
     auto s = std::make_unique<Session>();
-    if (const int code = SetDataFolder(*s, OptionalValue(p, "--data-folder"), err); code != 0)
-        return code;
     store::SiteStore sites;
-    if (!LoadSites(*s, sites, err))
-        return 1;
+    if (const int code = OpenSites(p, *s, sites, err); code != 0)
+        return code;
 
     publish::PublishOptions options;
     options.siteNumber = *number;
