@@ -11,6 +11,7 @@
 #include "store/text_file.h"
 
 #include <deque>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
@@ -147,6 +148,37 @@ TEST_F(Publishing, SendsTheInstructionsListThenOnlyWhatChanged)
     EXPECT_EQ(transfer.sent, ui.listed);
 }
 
+TEST_F(Publishing, AnExtraFileKeepsItsPlaceBelowTheRemoteFolder)
+{
+    EXPECT_EQ(TemporaryRemoteName("formtql.php"), ".formtql.php.part");
+    EXPECT_EQ(TemporaryRemoteName("images/bg.jpg"), "images/.bg.jpg.part");
+    EXPECT_EQ(RemoteNameOfExtra("images\\sub/./bg.jpg"), "images/sub/bg.jpg");
+    EXPECT_EQ(RemoteNameOfExtra("/home/me/bg.jpg"), "bg.jpg");
+    EXPECT_EQ(RemoteNameOfExtra("../shared/bg.jpg"), "bg.jpg");
+
+    // the page links its background below its own folder: the file goes to the same place on the server
+    test::SetupOptions o;
+    o.image = "images/back ground.gif";
+    std::filesystem::create_directories(web.path() + "/images");
+    ASSERT_TRUE(store::WriteFileReplacing(web.path() + "/images/back ground.gif", "GIF89a"));
+    s->store.pages[0][0].AttributeText = test::SetupEntryText(web.path(), o);
+    ui.answer(Answer::No);  // the folder stays
+    ui.answer(Answer::Yes); // the last build's files are replaced
+    compose::CreateFormHTMLCode(*s, ui);
+    const PublishReport r = Run();
+    ASSERT_TRUE(r.ok) << r.failure;
+    EXPECT_EQ(transfer.sent, (std::vector<std::string>{"formtql.htm", "formtql.php", "images/back ground.gif"}));
+    EXPECT_EQ(sites.sites[0].sent.count("images/back ground.gif"), 1u);
+
+    // a background that is a web address is no file here and is left to the user
+    o.image = "https://www.tarnquill.example/bg.gif";
+    s->store.pages[0][0].AttributeText = test::SetupEntryText(web.path(), o);
+    ui.answer(Answer::No);
+    ui.answer(Answer::Yes);
+    compose::CreateFormHTMLCode(*s, ui);
+    EXPECT_EQ(PlanPublish(*s, sites.sites[0], ui.listed, true).files.size(), 2u);
+}
+
 TEST_F(Publishing, AFailedFileStopsThePublishAndKeepsWhatWasSentBefore)
 {
     transfer.putResults["formtql.php"] = {TransferStatus::Failed, "552 Disk full", {}, {}};
@@ -211,10 +243,14 @@ TEST_F(Publishing, ARefusedLoginOrAChangedKeySendsNothing)
     EXPECT_EQ(ui.last().title, "LOGIN FAILED");
     EXPECT_TRUE(transfer.sent.empty());
 
-    // without a keyring, a password that worked is asked for again and the user is told
+    // without a keyring, a password that worked is asked for again and the user is told, once
     ui.input("right");
     EXPECT_TRUE(Run().ok);
     EXPECT_EQ(ui.messages()[0].title, "PASSWORD NOT KEPT");
+    ui.input("right");
+    EXPECT_TRUE(Run().ok);
+    EXPECT_EQ(transfer.logins[0].password, "right");
+    EXPECT_TRUE(ui.messages().empty());
 }
 
 TEST_F(Publishing, TheCheckTellsWhetherTheScriptRuns)

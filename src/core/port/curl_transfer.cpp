@@ -147,6 +147,13 @@ std::string SftpFolder(const std::string& dir)
     return folder;
 }
 
+/// The last part of a "/"-separated name.
+std::string BaseName(const std::string& name)
+{
+    const size_t slash = name.rfind('/');
+    return slash == std::string::npos ? name : name.substr(slash + 1);
+}
+
 /// A path in double quotes for an SFTP quote command.
 std::string Quoted(const std::string& path)
 {
@@ -175,7 +182,8 @@ struct CurlTransfer::Handle
     KeyCheck keyCheck;
     ~Handle() { curl_easy_cleanup(curl); }
 
-    /// The URL of the remote folder (with its trailing "/") or of a file in it.
+    /// The URL of the remote folder (with its trailing "/") or of a file
+    /// below it ("images/bg.jpg": each folder escaped on its own).
     std::string urlOf(const RemoteLogin& login, const std::string& name) const
     {
         const bool sftp = login.protocol == Protocol::Sftp;
@@ -201,7 +209,15 @@ struct CurlTransfer::Handle
                 path += "/" + Escape(curl, dir.substr(from, slash - from));
             from = slash + 1;
         }
-        return url + path + "/" + Escape(curl, name);
+        std::string file;
+        for (size_t at = 0; at <= name.size();) {
+            size_t slash = name.find('/', at);
+            if (slash == std::string::npos)
+                slash = name.size();
+            file += (at > 0 ? "/" : "") + Escape(curl, name.substr(at, slash - at));
+            at = slash + 1;
+        }
+        return url + path + "/" + file;
     }
 
     /// Resets the handle for a new request on `login`, keeping its connection.
@@ -391,8 +407,9 @@ TransferResult CurlTransfer::put(const RemoteLogin& login,
         after.add("*rm " + Quoted(folder + remoteName));
         after.add("rename " + Quoted(folder + tempName) + " " + Quoted(folder + remoteName));
     } else {
-        after.add("RNFR " + tempName);
-        after.add("RNTO " + remoteName);
+        // FTP stands in the file's own folder after the upload
+        after.add("RNFR " + BaseName(tempName));
+        after.add("RNTO " + BaseName(remoteName));
     }
     ProgressContext context{&progress};
     curl_easy_setopt(h.curl, CURLOPT_URL, h.urlOf(login, tempName).c_str());
@@ -400,6 +417,8 @@ TransferResult CurlTransfer::put(const RemoteLogin& login,
     curl_easy_setopt(h.curl, CURLOPT_READDATA, file.get());
     curl_easy_setopt(h.curl, CURLOPT_INFILESIZE_LARGE, static_cast<curl_off_t>(size));
     curl_easy_setopt(h.curl, CURLOPT_POSTQUOTE, after.list);
+    // a file below the remote folder ("images/bg.jpg") gets its folders made; the remote folder itself was probed
+    curl_easy_setopt(h.curl, CURLOPT_FTP_CREATE_MISSING_DIRS, static_cast<long>(CURLFTP_CREATE_DIR_RETRY));
     curl_easy_setopt(h.curl, CURLOPT_NOPROGRESS, 0L);
     curl_easy_setopt(h.curl, CURLOPT_XFERINFOFUNCTION, OnProgress);
     curl_easy_setopt(h.curl, CURLOPT_XFERINFODATA, &context);

@@ -17,6 +17,10 @@ struct KeyringPort
     virtual std::optional<std::string> readSecret(std::string_view key) = 0;
     /// Keeps `secret` under `key`; false when no keyring answers.
     virtual bool writeSecret(std::string_view key, std::string_view secret) = 0;
+
+    /// Set once the user was told that this keyring cannot keep a password,
+    /// so that a program that lives on says it once.
+    bool toldNotKept = false;
 };
 
 /// A keyring that keeps nothing: what a program without a desktop keyring has.

@@ -52,7 +52,23 @@ PublishReport Stop(PublishReport report, std::string why)
 
 std::string TemporaryRemoteName(const std::string& name)
 {
-    return "." + name + ".part";
+    const size_t slash = name.rfind('/');
+    const size_t base = slash == std::string::npos ? 0 : slash + 1;
+    return name.substr(0, base) + "." + name.substr(base) + ".part";
+}
+
+std::string RemoteNameOfExtra(const std::string& path)
+{
+    std::string generic = path;
+    std::replace(generic.begin(), generic.end(), '\\', '/');
+    const fs::path given(generic);
+    if (given.is_absolute())
+        return given.filename().string();
+    const fs::path normal = given.lexically_normal();
+    // a path that climbs out of the output folder has no place below the remote folder
+    if (normal.empty() || *normal.begin() == "..")
+        return normal.filename().string();
+    return normal.generic_string();
 }
 
 std::string FileUrl(const std::string& base, const std::string& name)
@@ -87,10 +103,11 @@ PlanPublish(const Session& s, const store::SiteTarget& site, const std::vector<s
     for (const auto& name : uploads)
         AddFile(plan, site, all, name, platform::JoinPath(folder, name));
     for (const auto& extra : shell::ExtraUploads(s.store)) {
-        // only a path that names a file here can be sent; the others are told to the user as they are
+        // only a path that names a file here can be sent; the others are told to the user as they are.
+        // The page names it relative to itself, so it goes to the same place below the remote folder.
         std::string local = fs::path(extra.path).is_absolute() ? extra.path : platform::JoinPath(folder, extra.path);
         if (IsRegularFile(local))
-            AddFile(plan, site, all, fs::path(local).filename().string(), std::move(local));
+            AddFile(plan, site, all, RemoteNameOfExtra(extra.path), std::move(local));
     }
     return plan;
 }

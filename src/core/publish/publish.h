@@ -29,7 +29,9 @@ struct PlannedFile
 
 /// The files to send for the last build of `s`: exactly `uploads`, the list
 /// the final page shows (FinalPageText::uploads), plus the extra paths they name that are
-/// files here (an absolute path, or one relative to the output folder).
+/// files here (an absolute path, or one relative to the output folder). A
+/// relative path keeps its place below the remote folder, as the page links
+/// it; an absolute one goes into the remote folder itself.
 /// `changed` compares size and hash with what the site last got; `all` marks
 /// every file changed. `error` names a file that cannot be read.
 struct PublishPlan
@@ -77,8 +79,14 @@ PublishReport Publish(Session& s,
                       UiPort& ui,
                       const PublishProgress& progress = {});
 
-/// The temporary name a file is sent under before it replaces `name`.
+/// The temporary name a file is sent under before it replaces `name`, in the same folder:
+/// "images/bg.jpg" is sent as "images/.bg.jpg.part".
 std::string TemporaryRemoteName(const std::string& name);
+
+/// The name below the remote folder of an extra path the instructions name:
+/// a relative path as it stands with "/" between its folders, the file name
+/// alone for an absolute path or one that climbs out of the output folder.
+std::string RemoteNameOfExtra(const std::string& path);
 
 /// `base` (a folder's web address) joined with a file name, escaped for a URL.
 std::string FileUrl(const std::string& base, const std::string& name);

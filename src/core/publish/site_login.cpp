@@ -121,10 +121,12 @@ void KeepPassword(const store::SiteTarget& site, const RemoteLogin& login, Keyri
     const std::string key = store::PasswordKey(site);
     if (keyring.readSecret(key) == login.password)
         return;
-    if (!keyring.writeSecret(key, login.password))
+    if (!keyring.writeSecret(key, login.password) && !keyring.toldNotKept) {
+        keyring.toldNotKept = true;
         ui.message("No keyring answers on this desktop, so the password cannot be kept. It is asked for at each "
                    "publish.",
                    "PASSWORD NOT KEPT", Icon::Information);
+    }
 }
 
 } // namespace tq::publish

@@ -28,7 +28,7 @@ std::optional<RemoteLogin> LoginOf(const std::string& dataFolder,
 TransferResult
 Connect(RemoteLogin& login, store::SiteTarget& site, TransferPort& transfer, UiPort& ui, bool trustShown);
 
-/// Keeps the password of a login that succeeded; says so once when no keyring answers.
+/// Keeps the password of a login that succeeded; says once per keyring when no keyring answers.
 void KeepPassword(const store::SiteTarget& site, const RemoteLogin& login, KeyringPort& keyring, UiPort& ui);
 
 } // namespace tq::publish
