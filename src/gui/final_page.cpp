@@ -64,6 +64,8 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
     AddCommand(build, "CreateFormHTMLCode", "Create Form with HTML Code", h);
     build->addSeparator();
     AddCommand(build, "TestLocally", "Test Locally", h);
+    AddCommand(build, "Publish", "Publish...", h);
+    AddCommand(build, "UploadTargets", "Upload Targets...", h);
     AddBarCommand(bar, "FTP", "FTP", h);
     QMenu* web = AddMenu(bar, "WebEditor", "W&eb-Editor");
     for (int i = 1; i <= 15; ++i)
@@ -102,10 +104,14 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
     auto* testLocally = new QPushButton("TEST LOCALLY");
     testLocally->setObjectName("TestLocallyButton");
     testLocally->setToolTip("Serve the form on this computer, submit it and see the mail it sends");
+    auto* publish = new QPushButton("PUBLISH");
+    publish->setObjectName("PublishButton");
+    publish->setToolTip("Send the files to the upload target of a web folder and check that the form runs there");
     auto* codeButtons = new QHBoxLayout;
     codeButtons->addWidget(m_copy);
     codeButtons->addWidget(preview);
     codeButtons->addWidget(testLocally);
+    codeButtons->addWidget(publish);
     codeCol->addLayout(codeButtons);
     grid->addLayout(codeCol, 0, 0, 2, 1);
 
@@ -140,6 +146,7 @@ FinalPage::FinalPage(UiPort& ui, const CommandHandler& handler, QWidget* parent)
 
     connect(m_copy, &QPushButton::clicked, this, [this] { shell::CopyCodeToClipboard(m_ui, m_codeText); });
     connect(testLocally, &QPushButton::clicked, this, [h] { h("TestLocally"); });
+    connect(publish, &QPushButton::clicked, this, [h] { h("Publish"); });
     connect(preview, &QPushButton::clicked, this, [this] {
         if (onPreviewFullScreen)
             onPreviewFullScreen();

@@ -4,6 +4,7 @@
 #include "create_page.h"
 #include "edit_page.h"
 #include "port/platform.h"
+#include "qt_keyring.h"
 #include "qt_port.h"
 #include "setup_page.h"
 #include "shortcuts.h"
@@ -40,7 +41,7 @@ QString ToQ(const std::string& s)
 } // namespace
 
 MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
-    : QMainWindow(parent), m_port(std::make_unique<QtPort>(this))
+    : QMainWindow(parent), m_port(std::make_unique<QtPort>(this)), m_keyring(std::make_unique<QtKeyring>(this))
 {
     setObjectName("MainWindow");
     setWindowTitle("Tarnquill");

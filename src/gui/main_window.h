@@ -25,6 +25,7 @@ class QTimer;
 namespace tq::gui {
 
 class QtPort;
+class QtKeyring;
 class StartPage;
 class CreatePage;
 class SetupPage;
@@ -55,6 +56,8 @@ class MainWindow : public QMainWindow
 
     Session& session() { return m_session; }
     QtPort& port() { return *m_port; }
+    /// The desktop's keyring, shared by every password the program keeps.
+    QtKeyring& keyring() { return *m_keyring; }
     /// The fixed folder that holds "\Tarnquill.stt".
     QString fixedFolder() const { return m_fixedFolder; }
     /// The folder made at the start for the site, the default DRIVE FOLDER PATH.
@@ -138,6 +141,7 @@ class MainWindow : public QMainWindow
 
     Session m_session;
     std::unique_ptr<QtPort> m_port;
+    std::unique_ptr<QtKeyring> m_keyring;
     QStackedWidget* m_stack = nullptr;
     StartPage* m_start = nullptr;
     SetupPage* m_setup = nullptr;

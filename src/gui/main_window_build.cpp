@@ -2,12 +2,16 @@
 // The build commands and the commands of the Help menu that stay in the program.
 #include "about_dialog.h"
 #include "async_process.h"
-#include "compose/build_driver.h"
 #include "busy_cursor.h"
+#include "compose/build_driver.h"
 #include "final_page.h"
 #include "main_window.h"
+#include "publish_dialog.h"
+#include "qt_keyring.h"
 #include "qt_port.h"
+#include "shell/instructions.h"
 #include "shell/publish_check.h"
+#include "site_dialog.h"
 
 #include <memory>
 
@@ -17,6 +21,18 @@ void MainWindow::registerBuildCommands()
 {
     registerCommand("CreateFormOnly", [this] { runBuild(false); });
     registerCommand("CreateFormHTMLCode", [this] { runBuild(true); });
+    registerCommand("Publish", [this] {
+        // before the first build there is nothing to list, and the core says so
+        std::vector<std::string> uploads;
+        if (!m_session.build.formAction.empty())
+            uploads = shell::UploadFiles(m_session);
+        PublishDialog publish(m_session, *m_keyring, std::move(uploads), this);
+        publish.exec();
+    });
+    registerCommand("UploadTargets", [this] {
+        SiteDialog sites(m_session, *m_keyring, 1, this);
+        sites.exec();
+    });
     registerCommand("About", [this] {
         AboutDialog about(*m_port, this);
         about.exec();

@@ -92,6 +92,8 @@ static void AddBuildMenu(QMenuBar* bar, const CommandHandler& h)
     AddCommand(build, "CreateFormHTMLCode", "Create Form with HTML Code", h);
     build->addSeparator();
     AddCommand(build, "TestLocally", "Test Locally", h);
+    AddCommand(build, "Publish", "Publish...", h);
+    AddCommand(build, "UploadTargets", "Upload Targets...", h);
     AddCommand(build, "Results", "Results...", h);
 }
 

@@ -119,6 +119,15 @@ std::optional<std::string> QtPort::inputBox(std::string_view prompt, std::string
     return s.toStdString();
 }
 
+std::optional<std::string> QtPort::passwordBox(std::string_view prompt, std::string_view title)
+{
+    bool ok = false;
+    QString s = QInputDialog::getText(m_parent, ToQ(title), ToQText(prompt), QLineEdit::Password, {}, &ok);
+    if (!ok)
+        return std::nullopt;
+    return s.toStdString();
+}
+
 std::optional<std::string> QtPort::openFileDialog(const FileDialogOptions& options)
 {
     QString f =

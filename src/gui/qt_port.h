@@ -22,6 +22,7 @@ class QtPort : public UiPort
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon, int defaultButton) override;
     std::optional<std::string>
     inputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+    std::optional<std::string> passwordBox(std::string_view prompt, std::string_view title) override;
     std::optional<std::string> openFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> saveFileDialog(const FileDialogOptions& options) override;
     std::optional<std::string> browseForFolder(std::string_view title, std::string_view initial) override;

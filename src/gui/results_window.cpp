@@ -2,6 +2,7 @@
 #include "results_window.h"
 
 #include "busy_cursor.h"
+#include "qt_keyring.h"
 #include "results/csv_export.h"
 #include "results/imap_source.h"
 #include "results/project_questions.h"
@@ -30,8 +31,8 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QTemporaryDir>
-#include <QValueAxis>
 #include <QVBoxLayout>
+#include <QValueAxis>
 
 namespace tq::gui {
 
@@ -167,8 +168,7 @@ void ResultsWindow::useProject(const Session& session)
     copy->DataFolder = session.DataFolder;
     std::string error;
     BusyCursor busy;
-    if (scratch.isValid() &&
-        results::ReadProjectQuestions(*copy, scratch.path().toStdString(), m_project, error)) {
+    if (scratch.isValid() && results::ReadProjectQuestions(*copy, scratch.path().toStdString(), m_project, error)) {
         m_hasProject = true;
         m_set = results::ResultsForProject(m_project);
     } else {
@@ -178,7 +178,7 @@ void ResultsWindow::useProject(const Session& session)
     refresh();
 }
 
-void ResultsWindow::readSources(const QStringList& sources, const QString& imapPassword)
+bool ResultsWindow::readSources(const QStringList& sources, const QString& imapPassword)
 {
     std::vector<std::string> list;
     for (const auto& s : sources)
@@ -193,6 +193,7 @@ void ResultsWindow::readSources(const QStringList& sources, const QString& imapP
     refresh();
     if (!problems.empty())
         m_ui.message("Some mails could not be read:\r\r" + problems, "RESULTS", Icon::Exclamation);
+    return problems.empty();
 }
 
 void ResultsWindow::refresh()
@@ -229,13 +230,15 @@ void ResultsWindow::refresh()
             m_answersLayout->addWidget(view);
             continue;
         }
-        auto* title = new QLabel(QStringLiteral("<b>%1</b> — %2").arg(QString::fromStdString(q.title).toHtmlEscaped())
+        auto* title = new QLabel(QStringLiteral("<b>%1</b> — %2")
+                                     .arg(QString::fromStdString(q.title).toHtmlEscaped())
                                      .arg(tr("%n text answer(s)", nullptr, static_cast<int>(counts.answered))),
                                  m_answers);
         m_answersLayout->addWidget(title);
         auto* list = new QListWidget(m_answers);
         for (size_t r = 0; r < m_set.rows.size(); ++r) {
-            const QString text = ResultsTableModel::CellText(m_set, static_cast<int>(r), static_cast<int>(counts.question) + 2);
+            const QString text =
+                ResultsTableModel::CellText(m_set, static_cast<int>(r), static_cast<int>(counts.question) + 2);
             if (!text.isEmpty())
                 list->addItem(text);
         }
@@ -288,9 +291,10 @@ bool ResultsWindow::exportPdf(const QString& path)
         newPageIfNeeded(line * 2);
         font.setBold(true);
         painter.setFont(font);
-        painter.drawText(0, y + line, tr("Submission %1: %2, %3")
-                                          .arg(r + 1)
-                                          .arg(ResultsTableModel::CellText(m_set, r, 0), ResultsTableModel::CellText(m_set, r, 1)));
+        painter.drawText(0, y + line,
+                         tr("Submission %1: %2, %3")
+                             .arg(r + 1)
+                             .arg(ResultsTableModel::CellText(m_set, r, 0), ResultsTableModel::CellText(m_set, r, 1)));
         font.setBold(false);
         painter.setFont(font);
         y += line;
@@ -317,7 +321,9 @@ void ResultsWindow::copyChart(int index)
 void ResultsWindow::chooseFiles()
 {
     // one file at a time through the port: an mbox holds many mails already
-    if (const auto file = m_ui.openFileDialog({"Open Mail File", "", "", "Mail files (*.mbox *.mbx *.eml *.txt) | *.mbox;*.mbx;*.eml;*.txt | All files (*) | *"}))
+    if (const auto file = m_ui.openFileDialog(
+            {"Open Mail File", "", "",
+             "Mail files (*.mbox *.mbx *.eml *.txt) | *.mbox;*.mbx;*.eml;*.txt | All files (*) | *"}))
         readSources({QString::fromStdString(*file)});
 }
 
@@ -329,20 +335,29 @@ void ResultsWindow::chooseFolder()
 
 void ResultsWindow::chooseImap()
 {
-    const auto address = m_ui.inputBox("Mailbox (imap://user@host:port/folder or imaps://...):", "OPEN IMAP MAILBOX",
-                                       "imaps://");
+    const auto address =
+        m_ui.inputBox("Mailbox (imap://user@host:port/folder or imaps://...):", "OPEN IMAP MAILBOX", "imaps://");
     if (!address || address->empty())
         return;
     if (!results::ParseImapAddress(*address)) {
-        m_ui.message("The address " + *address + " is not a mailbox address.\r\rWrite it as imap://user@host:port/folder.",
+        m_ui.message("The address " + *address +
+                         " is not a mailbox address.\r\rWrite it as imap://user@host:port/folder.",
                      "OPEN IMAP MAILBOX", Icon::Exclamation);
         return;
     }
-    bool ok = false;
-    const QString password =
-        QInputDialog::getText(this, tr("Open IMAP Mailbox"), tr("Password:"), QLineEdit::Password, {}, &ok);
-    if (ok)
-        readSources({QString::fromStdString(*address)}, password);
+    // a kept password is tried first; one that fails, or none, is asked for
+    const std::string key = MailboxPasswordKey(*address);
+    const std::optional<std::string> kept = keyring != nullptr ? keyring->readSecret(key) : std::nullopt;
+    if (kept && readSources({QString::fromStdString(*address)}, QString::fromStdString(*kept)))
+        return;
+    const auto password = m_ui.passwordBox("Password:", "OPEN IMAP MAILBOX");
+    if (!password || !readSources({QString::fromStdString(*address)}, QString::fromStdString(*password)))
+        return;
+    if (keyring != nullptr && !keyring->writeSecret(key, *password) && !keyring->toldNotKept) {
+        keyring->toldNotKept = true;
+        m_ui.message("No keyring answers on this desktop, so the password cannot be kept. It is asked for each time.",
+                     "PASSWORD NOT KEPT", Icon::Information);
+    }
 }
 
 void ResultsWindow::chooseCsv()

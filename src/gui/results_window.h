@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "port/keyring_port.h"
 #include "port/ui_port.h"
 #include "results/result_set.h"
 
@@ -42,13 +43,17 @@ class ResultsWindow : public QWidget
     /// from the mails.
     void useProject(const Session& session);
     /// Reads mail files, folders or IMAP addresses into the results and shows them.
-    void readSources(const QStringList& sources, const QString& imapPassword = {});
+    /// False when one of them could not be read (told through the port).
+    bool readSources(const QStringList& sources, const QString& imapPassword = {});
     /// Writes the table as CSV; false (and a message) when it cannot be written.
     bool exportCsv(const QString& path);
     /// Writes the summary, the charts and the table to a PDF report.
     bool exportPdf(const QString& path);
     /// Puts chart `index` (in the order shown) on the clipboard as an image.
     void copyChart(int index);
+
+    /// Where an IMAP mailbox's password is kept; none: it is asked for each time.
+    KeyringPort* keyring = nullptr;
 
     /// The folder whose mails "Test Locally Mails" reads; empty while no local test runs.
     QString localTestMailFolder;

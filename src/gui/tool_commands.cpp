@@ -3,11 +3,12 @@
 
 #include "help_window.h"
 #include "local_test_window.h"
-#include "results_window.h"
 #include "main_window.h"
 #include "photo_show_page.h"
 #include "port/platform.h"
+#include "qt_keyring.h"
 #include "qt_port.h"
+#include "results_window.h"
 #include "shell/external_tools.h"
 #include "shell/version_check.h"
 
@@ -102,6 +103,7 @@ void InstallToolCommands(MainWindow& window)
         auto* results = w->findChild<ResultsWindow*>("ResultsWindow");
         if (!results)
             results = new ResultsWindow(w->port(), w);
+        results->keyring = &w->keyring();
         // the questions of the project open now; a new look starts over
         results->useProject(w->session());
         if (auto* test = w->findChild<LocalTestWindow*>("LocalTestWindow"))
