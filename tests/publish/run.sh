@@ -194,6 +194,73 @@ has out "published and checked" "FTPS"
 cmp -s "$W/local/formtql.php" "$W/www/ftps/formtql.php" || fail "the FTPS script differs"
 pass "FTP with TLS: an untrusted certificate is refused, then trusted and published"
 
+# --- a file the page links below its own folder goes to the same place below the remote folder
+BG="$W/background.fms"
+sed 's|\[Background image path=;https://www.tarnquill.example/test/cloudark.gif\]|[Background image path=images/back ground.jpg]|' \
+    "$PROJECT" >"$BG"
+grep -q "images/back ground.jpg" "$BG" || fail "the background project was not made"
+mkdir -p "$W/local/images"
+head -c 100000 /dev/urandom >"$W/local/images/back ground.jpg"
+publish "$BG" 1 || fail "SFTP publish with a background"
+has out "sent images/back ground.jpg" "background"
+cmp -s "$W/local/images/back ground.jpg" "$W/www/sftp/images/back ground.jpg" || fail "the SFTP background is misplaced"
+publish "$BG" 4 || fail "FTPS publish with a background"
+cmp -s "$W/local/images/back ground.jpg" "$W/www/ftps/images/back ground.jpg" || fail "the FTPS background is misplaced"
+[ -z "$(find "$W/www" -name '*.part')" ] || fail "a temporary file stayed on a server"
+pass "a file the page links below its folder goes to the same place below the remote folder (SFTP, FTPS)"
+
+# --- SFTP: a connection cut half way through a file (a relay that breaks it) leaves the old file whole
+CUT_PORT=$((BASE + 5)); FTPS_SLOW_PORT=$((BASE + 6))
+$PY "$ROOT/tests/publish/cut_proxy.py" "$CUT_PORT" "$SSH_PORT" "$W/cut-sftp" \
+    "$W/www/sftp/images/.back ground.jpg.part" 30000 >"$W/relay.log" 2>&1 &
+PIDS="$PIDS $!"
+wait_port "$CUT_PORT"
+cli_stdin "$SECRET" site 7 --protocol sftp --host 127.0.0.1 --port "$CUT_PORT" --user "$USER_NAME" \
+    --remote-dir "$W/www/sftp" --url "$SFTP_URL" --password-stdin --trust || fail "site 7"
+cp "$W/www/sftp/images/back ground.jpg" "$W/old-sftp.jpg"
+head -c 100000 /dev/urandom >"$W/local/images/back ground.jpg"
+touch "$W/cut-sftp"
+if publish "$BG" 7; then fail "a cut SFTP connection published"; fi
+[ ! -e "$W/cut-sftp" ] || fail "the relay did not cut the SFTP connection"
+has err "images/back ground.jpg was not published" "SFTP cut"
+cmp -s "$W/old-sftp.jpg" "$W/www/sftp/images/back ground.jpg" || fail "the SFTP file changed after a cut"
+publish "$BG" 7 || fail "SFTP publish after the cut"
+cmp -s "$W/local/images/back ground.jpg" "$W/www/sftp/images/back ground.jpg" || fail "the SFTP file after the cut differs"
+pass "SFTP: a connection cut half way through a file leaves the old file whole; the next publish sends it"
+
+# --- FTP with TLS: the server's session ends half way through a file (a slow server, its session killed)
+sed "s/^listen_port=.*/listen_port=$FTPS_SLOW_PORT/" "$W/vsftpd.conf" >"$W/vsftpd-slow.conf"
+echo "local_max_rate=20000" >>"$W/vsftpd-slow.conf"
+/usr/sbin/vsftpd "$W/vsftpd-slow.conf" >"$W/vsftpd-slow.log" 2>&1 &
+SLOW_PID=$!
+PIDS="$PIDS $SLOW_PID"
+wait_port "$FTPS_SLOW_PORT"
+end_sessions() { for c in $(ps -o pid= --ppid "$1"); do end_sessions "$c"; kill -9 "$c" 2>/dev/null || true; done; }
+cli_stdin "$SECRET" site 8 --protocol ftps --host 127.0.0.1 --port "$FTPS_SLOW_PORT" --user "$USER_NAME" \
+    --remote-dir "$W/www/ftps" --url "$FTPS_URL" --password-stdin --trust || fail "site 8"
+publish "$BG" 4 || fail "FTPS publish before the cut"
+cp "$W/www/ftps/images/back ground.jpg" "$W/old-ftps.jpg"
+head -c 100000 /dev/urandom >"$W/local/images/back ground.jpg"
+rm -f "$W/cut-rc"
+( if publish "$BG" 8; then echo 0 >"$W/cut-rc"; else echo 1 >"$W/cut-rc"; fi ) &
+CUT_JOB=$!
+PART="$W/www/ftps/images/.back ground.jpg.part"
+i=0
+while [ "$(stat -c %s "$PART" 2>/dev/null || echo 0)" -eq 0 ]; do
+    i=$((i + 1)); [ $i -lt 600 ] || fail "the slow FTPS upload did not start"; sleep 0.02
+done
+got=$(stat -c %s "$PART")
+ps -o pid=,ppid=,user=,args= --ppid "$SLOW_PID" >"$W/sessions"; end_sessions "$SLOW_PID"
+wait "$CUT_JOB" || true
+[ "$got" -lt 100000 ] || fail "the FTPS file was whole before the cut ($got bytes)"
+[ "$(cat "$W/cut-rc")" = 1 ] || { cat "$W/sessions" >&2; fail "a cut FTPS connection published (cut at $got bytes)"; }
+has err "images/back ground.jpg was not published" "FTPS cut"
+cmp -s "$W/old-ftps.jpg" "$W/www/ftps/images/back ground.jpg" || fail "the FTPS file changed after a cut"
+publish "$BG" 4 || fail "FTPS publish after the cut"
+cmp -s "$W/local/images/back ground.jpg" "$W/www/ftps/images/back ground.jpg" || fail "the FTPS file after the cut differs"
+echo "   FTPS cut after $got of 100000 bytes"
+pass "FTP with TLS: a connection cut half way through a file leaves the old file whole; the next publish sends it"
+
 # --- plain FTP, with its warning; a connection cut half way through a file leaves the old file whole
 cli site 5 --protocol ftp --host 127.0.0.1 --port "$FTP_PORT" --user plainuser --remote-dir / \
     --url "http://127.0.0.1:$PHP_PORT/ftp/" || fail "site 5"
