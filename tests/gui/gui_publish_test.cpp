@@ -18,6 +18,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -323,6 +324,59 @@ class PublishTest : public QObject
         auto [last, seen4] = run({kSecret, {}});
         QVERIFY2(last.ok, last.failure.c_str());
         QCOMPARE(Contents(remote), Contents(local));
+    }
+
+    /// The time from the Publish button to "published and checked" on an SFTP
+    /// server that tests/publish/run.sh starts and names in TQ_SFTP_TARGET
+    /// ("port|user|key file|remote folder|web address|known_hosts"); skipped without it.
+    void timedPublishToSftp()
+    {
+        const QStringList target = qEnvironmentVariable("TQ_SFTP_TARGET").split('|');
+        if (target.size() != 6)
+            QSKIP("TQ_SFTP_TARGET names no SFTP server");
+        test::StartedWindow app;
+        QVERIFY(app.started);
+        MainWindow& w = *app.w;
+        app.put(1, 1, "Name");
+        app.put(1, 2, "Email");
+        QVERIFY(!app.useWebFolder().isEmpty());
+        QVERIFY(QFile::copy(target[5], app.data + "/known_hosts"));
+        tq::store::SiteStore sites;
+        sites.sites[0] = {true,
+                          tq::Protocol::Sftp,
+                          "127.0.0.1",
+                          target[0].toInt(),
+                          target[1].toStdString(),
+                          target[2].toStdString(),
+                          target[3].toStdString(),
+                          target[4].toStdString(),
+                          {},
+                          {}};
+        QVERIFY(tq::store::WriteSites(app.data.toStdString(), sites));
+        {
+            test::DialogScript script;
+            QVERIFY(test::Trigger(&w, "CreateFormOnly"));
+            QVERIFY2(script.seen.isEmpty(), qPrintable(script.seen.join(" | ")));
+        }
+        PublishDialog d(w.session(), w.keyring(), tq::shell::UploadFiles(w.session()), &w);
+        d.show();
+        auto* result = Child<QLabel>(&d, "lblResult");
+        for (const char* round : {"first", "second", "every file again"}) {
+            Child<QCheckBox>(&d, "chkAll")->setChecked(QString(round) == "every file again");
+            test::DialogScript script; // a key and a known host: no question at all
+            QElapsedTimer clock;
+            clock.start();
+            QTest::mouseClick(Child<QPushButton>(&d, "btnPublish"), Qt::LeftButton);
+            QTRY_VERIFY_WITH_TIMEOUT(!d.running() && !result->text().isEmpty(), 30000);
+            const qint64 ms = clock.elapsed();
+            QVERIFY2(result->text().startsWith("Published and checked"), qPrintable(result->text()));
+            QVERIFY2(script.seen.isEmpty(), qPrintable(script.seen.join(" | ")));
+            const QString log = Child<QPlainTextEdit>(&d, "txtLog")->toPlainText();
+            qInfo("%s publish, button to published and checked: %lld ms (%s)", round, ms,
+                  qPrintable(log.split('\n').join("; ")));
+            if (QString(round) == "second")
+                QVERIFY2(!log.contains("sent "), qPrintable(log));
+        }
     }
 
     void thePublishCommandsOpenTheirDialogs()

@@ -159,6 +159,21 @@ cmp -s "$W/local/mein formular é.php" "$W/www/sftp/mein formular é.php" || fai
 has out "runs ${SFTP_URL}mein%20formular%20%C3%A9.php" "odd names checked"
 pass "a key logs in; a file name with a blank and non-ASCII letters goes up and is checked"
 
+# --- the same from the desktop program's Publish button, timed (a key, the host key known: no question)
+GUI_TEST="$BUILD/bin/gui_publish_test"
+if [ -x "$GUI_TEST" ] && command -v xvfb-run >/dev/null 2>&1; then
+    mkdir -p "$W/www/sftp-gui"
+    chown "$USER_NAME" "$W/www/sftp-gui"
+    if ! TQ_SFTP_TARGET="$SSH_PORT|$USER_NAME|$W/ssh/user_key|$W/www/sftp-gui|http://127.0.0.1:$PHP_PORT/sftp-gui/|$W/data/known_hosts" \
+        QTWEBENGINE_DISABLE_SANDBOX=1 xvfb-run -a -s "-screen 0 1920x1080x24" "$GUI_TEST" timedPublishToSftp \
+        -platform xcb >"$W/gui.log" 2>&1; then
+        cat "$W/gui.log" >&2
+        fail "the desktop program's publish to SFTP"
+    fi
+    grep "button to published and checked" "$W/gui.log" | sed 's/^QINFO *: [^)]*) /   /'
+    pass "the desktop program publishes to SFTP and checks it; a second publish sends no file"
+fi
+
 # --- wrong password, missing folder
 if cli_stdin wrong-password publish "$W/changed.fms" --site 1 --web-folder "$W/local" --password-stdin --all; then
     fail "a wrong password published"
