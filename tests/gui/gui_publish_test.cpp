@@ -340,19 +340,40 @@ class PublishTest : public QObject
         app.put(1, 1, "Name");
         app.put(1, 2, "Email");
         QVERIFY(!app.useWebFolder().isEmpty());
-        QVERIFY(QFile::copy(target[5], app.data + "/known_hosts"));
-        tq::store::SiteStore sites;
-        sites.sites[0] = {true,
-                          tq::Protocol::Sftp,
-                          "127.0.0.1",
-                          target[0].toInt(),
-                          target[1].toStdString(),
-                          target[2].toStdString(),
-                          target[3].toStdString(),
-                          target[4].toStdString(),
-                          {},
-                          {}};
-        QVERIFY(tq::store::WriteSites(app.data.toStdString(), sites));
+        {
+            // the target set up in the dialog; the unknown host key is shown and trusted only on Yes
+            SiteDialog sites(w.session(), w.keyring(), 1, &w);
+            sites.show();
+            Child<QComboBox>(&sites, "cboProtocol")->setCurrentIndex(2);
+            Child<QLineEdit>(&sites, "txtHost")->setText("127.0.0.1");
+            Child<QSpinBox>(&sites, "spnPort")->setValue(target[0].toInt());
+            Child<QLineEdit>(&sites, "txtUser")->setText(target[1]);
+            Child<QLineEdit>(&sites, "txtKey")->setText(target[2]);
+            Child<QLineEdit>(&sites, "txtRemoteDir")->setText(target[3]);
+            Child<QLineEdit>(&sites, "txtUrl")->setText(target[4]);
+            for (auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+                test::DialogScript script;
+                script.press(answer);
+                if (answer == QMessageBox::No)
+                    script.press(QMessageBox::Ok);
+                bool worked = false;
+                sites.testConnection([&](bool ok) { worked = ok; });
+                QTRY_VERIFY_WITH_TIMEOUT(!sites.testing(), 20000);
+                QVERIFY2(script.done(), qPrintable(script.seen.join(" | ")));
+                QVERIFY(script.seen[0].startsWith("UNKNOWN HOST KEY: "));
+                QVERIFY(script.seen[0].contains("SHA256:"));
+                QCOMPARE(worked, answer == QMessageBox::Yes);
+                if (!worked)
+                    QVERIFY(script.seen[1].startsWith("NOT TRUSTED: "));
+            }
+            // the key kept is the server's own
+            const QByteArray key = Contents(target[5]).split('\n').value(0).split(' ').value(2);
+            QVERIFY(!key.isEmpty());
+            QVERIFY(Contents(app.data + "/known_hosts").contains(key));
+            test::DialogScript quiet;
+            QVERIFY(sites.save());
+            QVERIFY2(quiet.seen.isEmpty(), qPrintable(quiet.seen.join(" | ")));
+        }
         {
             test::DialogScript script;
             QVERIFY(test::Trigger(&w, "CreateFormOnly"));
