@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The row commands of the four Pages, the quick preview and the mode commands:
 // thin calls into the model's editing, reordering and new-project operations.
-#include "compose/build_driver.h"
 #include "busy_cursor.h"
+#include "compose/build_driver.h"
 #include "create_page.h"
 #include "main_window.h"
 #include "model/editing.h"
@@ -113,7 +113,10 @@ void MainWindow::wireRowActions(CreatePage* p)
         selectPickItem(1, m_session.catalogue.PickListIndex);
     };
     p->onOrder = [this](int) {
-        m_session.store.state.OrderPrompt = true;
+        // the question comes first: No leaves the rows and the pick list as they were
+        if (!model::AskToReorder(*m_port))
+            return;
+        m_session.store.state.OrderPrompt = false; // asked already
         model::ReorderEntries(m_session.store, *m_port);
         refreshAll();
         if (m_view == View::Page1)

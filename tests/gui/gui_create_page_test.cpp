@@ -166,6 +166,18 @@ class CreatePageTest : public QObject
         auto* model = page->model();
         QCOMPARE(app.name(1, 17), QString("Security Code"));
         QVERIFY(model->setData(model->index(17, EntryTableModel::ColNumber), "1", Qt::EditRole));
+        // No changes nothing: not the rows, not the pick list's selection
+        PickList* pick = page->pickList();
+        pick->setCurrentRow(5);
+        {
+            test::DialogScript script;
+            script.press(QMessageBox::No);
+            page->findChild<QPushButton*>("Order")->click();
+            QCOMPARE(script.seen.size(), 1);
+            QVERIFY(script.seen[0].startsWith("REORDER ENTRIES"));
+        }
+        QCOMPARE(app.name(1, 17), QString("Security Code"));
+        QCOMPARE(pick->currentRow(), 5);
         {
             test::DialogScript script;
             script.press(QMessageBox::Yes).press(QMessageBox::Ok);

@@ -69,15 +69,19 @@ double LeadingNumber(std::string_view text)
     return sign * value;
 }
 
+bool AskToReorder(UiPort& ui)
+{
+    return ui.ask("Do you want to reorder your entries based on the reference numbers below?", "REORDER ENTRIES",
+                  Buttons::YesNo, Icon::Question, 1) != Answer::No;
+}
+
 bool ReorderEntries(EntryStore& store, UiPort& ui)
 {
     StateRecord& st = store.state;
     // 1
     if (st.OrderPrompt) {
-        const Answer a = ui.ask("Do you want to reorder your entries based on the reference numbers below?",
-                                "REORDER ENTRIES", Buttons::YesNo, Icon::Question, 1);
         st.OrderPrompt = false;
-        if (a == Answer::No)
+        if (!AskToReorder(ui))
             return true;
     }
 

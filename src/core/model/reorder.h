@@ -12,6 +12,9 @@ namespace tq::model {
 /// fraction and an exponent ("12abc" is 12, "2.5" is 2.5); 0 when none.
 double LeadingNumber(std::string_view text);
 
+/// The question of the Order command, "REORDER ENTRIES"; true on Yes.
+bool AskToReorder(UiPort& ui);
+
 /// Sorts the filled rows of all four Pages by their ReferenceNumber, compacts
 /// them from row 0 of Page 1 and numbers all 100 rows anew. Under OrderPrompt
 /// it asks first (and clears the flag); No changes nothing. A number of 0 on
