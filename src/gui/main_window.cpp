@@ -13,6 +13,7 @@
 #include "store/recent_history.h"
 #include "store/setup_store.h"
 #include "tool_commands.h"
+#include "wait_timings.h"
 #include "window_title.h"
 
 #include <QAction>
@@ -315,6 +316,7 @@ void MainWindow::runCommand(const QString& name)
     if (outer) {
         m_inCommand = false;
         refreshAll();
+        NoteWait("views refreshed");
     }
 }
 

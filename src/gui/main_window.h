@@ -21,6 +21,7 @@ class QShortcut;
 class QLabel;
 class QKeySequence;
 class QTimer;
+class QPixmap;
 
 namespace tq::gui {
 
@@ -112,8 +113,10 @@ class MainWindow : public QMainWindow
     void openEntryEditPage(int page, int row, const std::string& selectKey);
     void fillFinalPage();
     /// The preview window on the output file; `fromFinalPage` sets the
-    /// previewCaller that takes its Exit back to the final page.
-    void showWholePagePreview(bool fromFinalPage);
+    /// previewCaller that takes its Exit back to the final page. `shownNow`,
+    /// the page in sight when the command started, stands until the preview
+    /// has painted.
+    void showWholePagePreview(bool fromFinalPage, const QPixmap& shownNow);
     void confirmExit();
     void runBuild(bool wholePage);
     void endProgram();

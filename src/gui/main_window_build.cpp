@@ -12,7 +12,10 @@
 #include "shell/instructions.h"
 #include "shell/publish_check.h"
 #include "site_dialog.h"
+#include "wait_timings.h"
 
+#include <QPixmap>
+#include <QStackedWidget>
 #include <memory>
 
 namespace tq::gui {
@@ -45,6 +48,10 @@ void MainWindow::runBuild(bool wholePage)
     // the preview's Exit goes back to the final page only when the build was started there
     const bool fromFinalPage = m_view == View::FinalPage;
     m_buildFinished = false;
+    StartWait(wholePage ? "build and preview" : "build");
+    // what the user sees now stays until the preview has painted
+    const QPixmap shownNow = wholePage ? m_stack->currentWidget()->grab() : QPixmap();
+    NoteWait("page in sight taken");
     {
         BusyCursor busy;
         if (wholePage)
@@ -52,6 +59,7 @@ void MainWindow::runBuild(bool wholePage)
         else
             compose::CreateFormOnly(s, *m_port);
     }
+    NoteWait("built");
     if (s.build.endProgram) {
         endProgram();
         return;
@@ -71,7 +79,7 @@ void MainWindow::runBuild(bool wholePage)
                 finalPage()->setPublishWarning(QString::fromStdString(*warning));
         });
     if (wholePage)
-        showWholePagePreview(fromFinalPage);
+        showWholePagePreview(fromFinalPage, shownNow);
 }
 
 } // namespace tq::gui

@@ -9,6 +9,7 @@
 #include "shell/batch_commands.h"
 #include "shell/instructions.h"
 #include "shell/preview.h"
+#include "wait_timings.h"
 
 #include <QTimer>
 
@@ -38,7 +39,7 @@ FinalPage* MainWindow::finalPage()
 {
     if (!m_final) {
         m_final = new FinalPage(*m_port, [this](const QString& name) { runCommand(name); });
-        m_final->onPreviewFullScreen = [this] { showWholePagePreview(true); };
+        m_final->onPreviewFullScreen = [this] { showWholePagePreview(true, m_final->grab()); };
         registerPage(View::FinalPage, m_final);
     }
     return m_final;
@@ -94,11 +95,12 @@ void MainWindow::fillFinalPage()
     finalPage()->fill(shell::ShowInstructions(m_session, *m_port));
 }
 
-void MainWindow::showWholePagePreview(bool fromFinalPage)
+void MainWindow::showWholePagePreview(bool fromFinalPage, const QPixmap& shownNow)
 {
     m_session.run.previewCaller = fromFinalPage ? 9 : 0;
-    previewWindow()->showFile(ToQ(m_session.build.htmlPath));
+    previewWindow()->showFile(ToQ(m_session.build.htmlPath), shownNow);
     showView(View::Preview);
+    NoteWait("preview on show");
 }
 
 } // namespace tq::gui

@@ -24,6 +24,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QWebEnginePage>
 #include <QWebEngineView>
 #include <QtTest>
 
@@ -215,10 +216,20 @@ class EditPageTest : public QObject
         app.useWebFolder();
         test::DialogScript script;
         w.showView(tq::View::Page2);
+        QWebEnginePage* kept = nullptr;
         for (int round = 0; round < 2; ++round) {
             QVERIFY(test::Trigger(&w, "CreateFormHTMLCode"));
             QCOMPARE(w.currentView(), tq::View::Preview);
-            QVERIFY(WaitLoaded(w.previewWindow()->browser()));
+            // the page that was in sight covers the browser until the new page has painted
+            PreviewWindow* preview = w.previewWindow();
+            QVERIFY(preview->covered());
+            QVERIFY(WaitLoaded(preview->browser()));
+            QTRY_VERIFY_WITH_TIMEOUT(!preview->covered(), 5000);
+            QVERIFY(preview->browser()->url().isLocalFile());
+            // one page serves every preview
+            if (round == 0)
+                kept = preview->browser()->page();
+            QCOMPARE(preview->browser()->page(), kept);
             if (round == 0) {
                 QTest::qWait(300);
                 test::SaveScreenshot(&w, "whole_page_preview");
