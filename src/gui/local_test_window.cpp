@@ -3,9 +3,9 @@
 
 #include "compose/build_driver.h"
 #include "shell/local_test.h"
+#include "wait_timings.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -72,6 +72,8 @@ int FreePort()
 // How long PHP may take to listen, and the pause between two looks.
 constexpr int kServerWaitMs = 5000;
 constexpr int kProbeIntervalMs = 10;
+// How long PHP has to end once told to, before it is killed.
+constexpr int kServerEndMs = 3000;
 
 // Text for the panel: the mail's CR LF become plain line ends, so that the
 // body reads as the recipient's mail program shows it.
@@ -166,6 +168,7 @@ LocalTestWindow::LocalTestWindow(QWidget* parent) : QWidget(parent, Qt::Window)
     m_poll->setInterval(250);
     connect(m_poll, &QTimer::timeout, this, &LocalTestWindow::pollMails);
     connect(m_mails, &QListWidget::currentRowChanged, this, &LocalTestWindow::showMail);
+    connect(m_view, &QWebEngineView::loadFinished, this, [] { NoteWait("form loaded"); });
     connect(reload, &QPushButton::clicked, this, [this] {
         if (!m_url.isEmpty())
             m_view->load(QUrl(m_url));
@@ -183,21 +186,32 @@ LocalTestWindow::~LocalTestWindow()
 
 bool LocalTestWindow::start(const Session& session, UiPort& ui)
 {
-    stop();
+    StartWait("test locally");
     const QFileInfo given(phpProgram);
     const QString php = given.isAbsolute() ? (given.isExecutable() ? phpProgram : QString())
                                            : QStandardPaths::findExecutable(phpProgram);
     if (php.isEmpty()) {
+        stop();
         ui.message(shell::kNoPhpText, "PHP IS NOT INSTALLED", Icon::Information);
         return false;
     }
 
-    m_root = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/tarnquill-test-XXXXXX");
-    if (!m_root->isValid()) {
-        ui.message("A temporary folder for the local test could not be made: " + m_root->errorString().toStdString(),
-                   "TEST LOCALLY", Icon::Exclamation);
-        m_root.reset();
-        return false;
+    // A server still running from the last test serves this one too: its
+    // folder is emptied and built into again, and PHP need not start anew.
+    const bool warm =
+        m_server && m_server->state() == QProcess::Running && m_root && m_serverProgram == php && m_poll->isActive();
+    if (warm) {
+        clearLastTest();
+    } else {
+        stop();
+        m_root = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/tarnquill-test-XXXXXX");
+        if (!m_root->isValid()) {
+            ui.message("A temporary folder for the local test could not be made: " +
+                           m_root->errorString().toStdString(),
+                       "TEST LOCALLY", Icon::Exclamation);
+            m_root.reset();
+            return false;
+        }
     }
     const QString site = m_root->filePath("site");
     const QString mail = m_root->filePath("mail");
@@ -227,8 +241,16 @@ bool LocalTestWindow::start(const Session& session, UiPort& ui)
         stop();
         return false;
     }
+    NoteWait("built");
 
     WriteCompletedStandIn(site, b.setupValues.COMPLETED);
+    const QString page = QFileInfo(QString::fromStdString(b.htmlPath)).fileName();
+    m_ui = &ui;
+    if (warm) {
+        m_url = "http://127.0.0.1:" + QString::number(m_port) + "/" + page;
+        serverReady();
+        return true;
+    }
 
     const QString capture = m_root->filePath("mail-capture.sh");
     QFile script(capture);
@@ -247,18 +269,31 @@ bool LocalTestWindow::start(const Session& session, UiPort& ui)
     m_server->setProcessChannelMode(QProcess::MergedChannels);
     m_server->setStandardOutputFile(QProcess::nullDevice());
     m_server->start(php, args);
+    m_serverProgram = php;
 
-    const QString page = QFileInfo(QString::fromStdString(b.htmlPath)).fileName();
     m_url = "http://" + address + "/" + page;
     m_address->setText("Starting PHP for <b>" + page.toHtmlEscaped() + "</b> at " + m_url);
     // The form is loaded once PHP takes connections; the wait runs on the
     // event loop, so the windows stay live and paint meanwhile.
-    m_ui = &ui;
     m_port = port;
     ui.setBusy(true);
     m_waited.start();
     probeServer();
     return true;
+}
+
+void LocalTestWindow::clearLastTest()
+{
+    // what the last build and its visitors left: the site's files and the caught mails
+    m_poll->stop();
+    QDir(m_root->filePath("site")).removeRecursively();
+    QDir mails(m_root->filePath("mail"));
+    for (const QString& name : mails.entryList(QDir::Files))
+        mails.remove(name);
+    m_seen.clear();
+    m_mailTexts.clear();
+    m_mails->clear();
+    m_details->clear();
 }
 
 void LocalTestWindow::probeServer()
@@ -277,8 +312,11 @@ void LocalTestWindow::probeServer()
     QProcess* server = m_server;
     connect(socket, &QTcpSocket::connected, this, [this, socket, server] {
         socket->deleteLater();
-        if (server == m_server)
+        if (server == m_server) {
+            NoteWait("server listens");
+            m_ui->setBusy(false);
             serverReady();
+        }
     });
     connect(socket, &QTcpSocket::errorOccurred, this, [this, socket, server] {
         socket->deleteLater();
@@ -290,7 +328,6 @@ void LocalTestWindow::probeServer()
 
 void LocalTestWindow::serverReady()
 {
-    m_ui->setBusy(false);
     const QString page = QUrl(m_url).fileName();
     m_address->setText("Serving <b>" + page.toHtmlEscaped() + "</b> at <a href='" + m_url + "'>" + m_url +
                        "</a> &nbsp; (PHP on this computer, mails are caught)");
@@ -310,14 +347,14 @@ void LocalTestWindow::stop()
     if (m_server) {
         if (m_ui && m_poll && !m_poll->isActive())
             m_ui->setBusy(false); // stopped while it waited for PHP
-        m_server->terminate();
-        if (!m_server->waitForFinished(3000)) {
-            m_server->kill();
-            m_server->waitForFinished(3000);
-        }
-        delete m_server;
+        // the window does not wait for PHP to end: it goes away on its own
+        QProcess* server = m_server;
         m_server = nullptr;
+        connect(server, &QProcess::finished, server, &QObject::deleteLater);
+        QTimer::singleShot(kServerEndMs, server, [server] { server->kill(); });
+        server->terminate();
     }
+    m_serverProgram.clear();
     m_root.reset();
     m_url.clear();
     m_seen.clear();

@@ -32,10 +32,12 @@ class LocalTestWindow : public QWidget
     ~LocalTestWindow() override;
 
     /// Builds the project of `session` (its entries, not the user's output
-    /// files) and starts serving it. Without php it explains how to get it.
-    /// The build's messages go to `ui`. False when nothing is served.
+    /// files) and serves it: the server of the last start, when it still
+    /// runs, serves the new build at once. Without php it explains how to get
+    /// it. The build's messages go to `ui`. False when nothing is served.
     bool start(const Session& session, UiPort& ui);
-    /// Stops the server and removes the temporary folder.
+    /// Stops the server (without waiting for it to end) and removes the
+    /// temporary folder.
     void stop();
 
     /// The program started as PHP; "php" on the PATH unless a test sets another.
@@ -54,6 +56,7 @@ class LocalTestWindow : public QWidget
     void showMail(int row);
     void probeServer();
     void serverReady();
+    void clearLastTest();
 
     std::unique_ptr<QTemporaryDir> m_root;
     QProcess* m_server = nullptr;
@@ -65,7 +68,8 @@ class LocalTestWindow : public QWidget
     QStringList m_mailTexts;
     QSet<QString> m_seen;
     QString m_url;
-    UiPort* m_ui = nullptr; // the port of the last start, for the wait's end
+    QString m_serverProgram; // the php that serves
+    UiPort* m_ui = nullptr;  // the port of the last start, for the wait's end
     int m_port = 0;
     QElapsedTimer m_waited;
 };

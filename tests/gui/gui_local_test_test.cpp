@@ -8,6 +8,7 @@
 #include "store/text_file.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QFile>
 #include <QListWidget>
 #include <QMessageBox>
@@ -120,8 +121,24 @@ class LocalTestWindowTest : public QObject
         QVERIFY(details.contains("Body"));
         QTest::qWait(800); // the page the visitor lands on
         test::SaveScreenshot(&w, "local_test_mail");
+        // the next test is served by the running PHP at once, its folder and mails fresh
+        const QString firstUrl = w.url();
+        const QString mails = w.mailFolder();
+        QVERIFY(w.start(s, port));
+        QCOMPARE(w.url(), firstUrl);
+        QCOMPARE(w.mailList()->count(), 0);
+        QVERIFY(QDir(mails).entryList(QDir::Files).isEmpty());
+        QVERIFY(loaded.wait(20000));
+        QCOMPARE(loaded.last().at(0).toBool(), true);
+        QVERIFY(RunJs(w.view(), "document.forms.length").toInt() >= 1);
         w.stop();
         QCOMPARE(w.mailList()->count(), 0);
+        QVERIFY(w.mailFolder().isEmpty());
+        // once stopped, a start brings PHP up again
+        QVERIFY(w.start(s, port));
+        QVERIFY(loaded.wait(20000));
+        QCOMPARE(loaded.last().at(0).toBool(), true);
+        w.stop();
     }
 };
 
