@@ -24,6 +24,11 @@
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
+#ifdef __linux__
+#include <csignal>
+#include <sys/prctl.h>
+#endif
+
 namespace tq::gui {
 
 namespace {
@@ -268,6 +273,10 @@ bool LocalTestWindow::start(const Session& session, UiPort& ui)
     m_server = new QProcess(this);
     m_server->setProcessChannelMode(QProcess::MergedChannels);
     m_server->setStandardOutputFile(QProcess::nullDevice());
+#ifdef __linux__
+    // PHP ends with the program, even when the program itself is killed
+    m_server->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+#endif
     m_server->start(php, args);
     m_serverProgram = php;
 
