@@ -122,6 +122,7 @@ EditPage::EditPage(Session& session, UiPort& ui, QWidget* parent) : QWidget(pare
     auto* liveLayout = new QVBoxLayout(m_livePane);
     liveLayout->setContentsMargins(0, 0, 0, 0);
     auto* split = new QSplitter(Qt::Horizontal);
+    m_split = split;
     split->setObjectName("EditSplit");
     split->setChildrenCollapsible(false);
     split->addWidget(m_scroll);
@@ -516,6 +517,18 @@ void EditPage::refreshLivePreview()
     }
     // the page is given as it stands, so that the pane never shows a file half written
     m_live->setHtml(QString::fromUtf8(page.readAll()), QUrl::fromLocalFile(ToQ(file)));
+}
+
+void EditPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The rows would take all the room the pane leaves at its least: at the
+    // first showing the rows get three fifths and the pane two.
+    const int width = m_split->width();
+    if (!m_splitPlaced && width > 0) {
+        m_split->setSizes({width * 3 / 5, width - width * 3 / 5});
+        m_splitPlaced = true;
+    }
 }
 
 } // namespace tq::gui

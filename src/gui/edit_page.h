@@ -17,6 +17,7 @@ class QWebEngineView;
 class QStringListModel;
 class QCheckBox;
 class QTimer;
+class QSplitter;
 
 namespace tq {
 struct Session;
@@ -73,6 +74,9 @@ class EditPage : public QWidget
     /// Called when the edit window opens or closes (the caption changes).
     std::function<void()> onCaptionChanged;
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
     void buildRows();
     void paintRow(int row);
@@ -96,6 +100,8 @@ class EditPage : public QWidget
     QWidget* m_livePane = nullptr;
     QCheckBox* m_liveSwitch = nullptr;
     QTimer* m_liveTimer = nullptr;
+    QSplitter* m_split = nullptr;
+    bool m_splitPlaced = false; // the first showing shared the width out
     QList<QWidget*> m_swatches; // one per row, null where the row holds no colour
     QAction* m_exitPreview = nullptr;
     EditWindow* m_window = nullptr;
