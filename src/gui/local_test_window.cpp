@@ -14,6 +14,7 @@
 #include <QListWidget>
 #include <QProcess>
 #include <QPushButton>
+#include <QQuickWidget>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTcpServer>
@@ -141,6 +142,11 @@ LocalTestWindow::LocalTestWindow(QWidget* parent) : QWidget(parent, Qt::Window)
     layout->addLayout(top);
 
     auto* split = new QSplitter(Qt::Horizontal);
+    // The browser paints through a texture, which the window's surface must
+    // be made for before it first shows: else the window is taken down and
+    // made again when the first page loads.
+    auto* textureSurface = new QQuickWidget(this);
+    textureSurface->hide();
     m_view = new QWebEngineView;
     m_view->setObjectName("LocalTestView");
     split->addWidget(m_view);
