@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/build_state.h"
 #include "model/catalogue.h"
 #include "model/entry_store.h"
 #include "model/settings.h"
 #include "show/show_settings.h"
 #include "store/run_values.h"
 #include "store/setup_store.h"
+#include "write/build_state.h"
 
 #include <string>
 
@@ -20,7 +20,7 @@ struct Session
     model::EntryStore store;
     model::TemplateSettings settings;
     model::Catalogue catalogue;
-    compose::BuildState build;
+    write::BuildState build;
     store::SetupStore setup;
     store::RunValues run;
     std::string DataFolder;

@@ -32,7 +32,7 @@ std::unique_ptr<tq::Session> MakeSession(bool survey)
     return s;
 }
 
-void SetCancelButton(tq::compose::WorkingValues& v,
+void SetCancelButton(tq::write::WorkingValues& v,
                      std::string name,
                      std::string link,
                      std::string colorHex,

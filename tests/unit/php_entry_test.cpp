@@ -17,7 +17,7 @@ TEST(PhpEntry, FollowupFilesOutOfPlaceStopsTheBuild)
         SCOPED_TRACE(r.before);
         test::TempDir dir;
         test::ScriptedPort ui;
-        auto state = std::make_unique<compose::BuildState>();
+        auto state = std::make_unique<write::BuildState>();
         state->channels[1].open(dir.file("out.php"));
         state->channels[2].open(dir.file("downtemp.txt"));
         state->lastConditionField = r.before;

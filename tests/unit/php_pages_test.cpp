@@ -10,9 +10,9 @@ using namespace tq;
 
 TEST(PhpPages, LibraryAndEmptyPagesMatchGolden)
 {
-    auto st = std::make_unique<compose::BuildState>();
+    auto st = std::make_unique<write::BuildState>();
     test::TempDir dir;
-    compose::LineWriter out;
+    write::LineWriter out;
     ASSERT_TRUE(out.open(dir.file("out.php")));
     php::WriteFunctionLibrary(out);
     php::WriteDownloadFile(out, *st, "");

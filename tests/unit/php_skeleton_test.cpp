@@ -13,8 +13,8 @@ using namespace tq;
 TEST(PhpSkeleton, WholeScriptMatchesGolden)
 {
     test::TempDir dir;
-    auto state = std::make_unique<compose::BuildState>();
-    compose::BuildState& st = *state;
+    auto state = std::make_unique<write::BuildState>();
+    write::BuildState& st = *state;
     st.setupValues.EMAIL1 = "a@example.com";
     st.setupValues.EMAIL2 = "none";
     st.setupValues.EMAIL3 = "c@example.com";
@@ -54,7 +54,7 @@ TEST(PhpSkeleton, WholeScriptMatchesGolden)
         {"PASSWORD", "passw21", "yes", "Wrong", "Empty", "Pw1", "T"},
     };
     for (const auto& e : entries) {
-        st.values = compose::WorkingValues{};
+        st.values = write::WorkingValues{};
         st.values.REQ = e.req;
         st.values.MSG = e.msg;
         st.values.MSG2 = e.msg2;

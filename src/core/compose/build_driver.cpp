@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "compose/build_driver.h"
 
+#include "compose/dispatch.h"
 #include "compose/php_pass.h"
 #include "compose/setup_checks.h"
 #include "compose/validation.h"
-#include "html/dispatch.h"
 #include "html/headings.h"
 #include "html/page_shell.h"
 #include "model/attribute_text.h"
@@ -65,7 +65,7 @@ void ShowInstructions(Session&, UiPort& ui)
 
 // ---------------------------------------------------------------------------
 
-void ResetBuildCounters(BuildState& b)
+void ResetBuildCounters(write::BuildState& b)
 {
     b.questionNumber = 0;
     b.messageNumber = 0;
@@ -88,7 +88,7 @@ void ShowPathError(UiPort& ui, const std::string& folder)
 
 // Opening an existing file for input proves it is there; a missing file is
 // created empty. Returns false after the fatal box when neither works.
-bool TouchHtmlFile(BuildState& b, UiPort& ui)
+bool TouchHtmlFile(write::BuildState& b, UiPort& ui)
 {
     std::error_code ec;
     if (std::filesystem::exists(b.htmlPath, ec)) {
@@ -108,9 +108,9 @@ bool TouchHtmlFile(BuildState& b, UiPort& ui)
 // A channel whose writing failed (no space, no permission, a folder gone):
 // its file was left as it was. The box of a failed open tells it, with
 // "writing"; the build stops with buildError 1.
-bool WriteFailed(BuildState& b, UiPort& ui, int channel)
+bool WriteFailed(write::BuildState& b, UiPort& ui, int channel)
 {
-    const LineWriter& out = b.channels[channel];
+    const write::LineWriter& out = b.channels[channel];
     if (out.good())
         return false;
     ReportFileFault(ui, FileStep::Writing, out.error(), out.path());
@@ -125,7 +125,7 @@ bool FileReadable(const std::string& path)
 }
 
 // Copies every line of `from` onto channel 1 as it stands.
-void CopyLines(BuildState& b, const std::string& from)
+void CopyLines(write::BuildState& b, const std::string& from)
 {
     std::ifstream in(from, std::ios::binary);
     std::string line;
@@ -144,7 +144,7 @@ void DispatchList(Session& s, UiPort& ui, int pass)
         const std::string& text = b.flatList.at(i + 1);
         if (pass == 2)
             b.lastPhpSlot = i;
-        html::DispatchEntry(s, ui, pass, html::FieldName(inputType, i), inputType, text);
+        DispatchEntry(s, ui, pass, html::FieldName(inputType, i), inputType, text);
         if (b.buildError == 1) {
             ReportBuildFault(s, ui, i);
             return;
@@ -298,8 +298,7 @@ void HtmlPass(Session& s, UiPort& ui)
         for (const auto& slot : s.store.state.PreviewSlots) {
             if (slot.InputTypeName.empty())
                 continue;
-            html::DispatchEntry(s, ui, 1, html::PreviewFieldName(slot.InputTypeName), slot.InputTypeName,
-                                slot.AttributeText);
+            DispatchEntry(s, ui, 1, html::PreviewFieldName(slot.InputTypeName), slot.InputTypeName, slot.AttributeText);
             if (b.buildError == 5)
                 b.buildError = 1;
             if (b.buildError == 1)

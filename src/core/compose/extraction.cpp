@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "compose/extraction.h"
 
+#include "compose/globals.h"
 #include "compose/setup_checks.h"
 #include "compose/validation.h"
-#include "html/globals.h"
 #include "model/attribute_text.h"
 #include "model/input_types.h"
 #include "model/text_ops.h"
@@ -24,7 +24,7 @@ struct Reader
     Session& s;
     UiPort& ui;
     std::string& text;
-    WorkingValues& v;
+    write::WorkingValues& v;
 
     bool key(std::string_view k, std::string& out) { return TakeKey(s, ui, text, k, out); }
     bool info() { return TakeEndMark(s, ui, text, "[INFO:"); }
@@ -149,14 +149,14 @@ struct Reader
                         checkSemicolon(v.ThankYouFile) && ki("[INSTRUCTIONS", instructions);
         if (!ok)
             return false;
-        if (files.count() > kDownloadFileSlots)
+        if (files.count() > write::kDownloadFileSlots)
             throw model::InternalError("internal error: more than 50 download files");
         s.build.downloadFileCount = files.count();
         for (int i = 1; i <= files.count(); ++i)
             s.build.downloadFiles[static_cast<size_t>(i)] = files.at(i);
         s.build.homePage = v.ThankYouFile;
         const model::LineList lines = model::SplitLines(instructions);
-        if (lines.count() > kDownloadTextSlots)
+        if (lines.count() > write::kDownloadTextSlots)
             throw model::InternalError("internal error: more than 150 download texts");
         s.build.downloadTextCount = lines.count();
         for (int i = 1; i <= lines.count(); ++i)
@@ -179,7 +179,7 @@ struct Reader
 /// NAME, SUBJECT, the two phone types and EMAIL: one row with its default key.
 bool ReadTextRow(Reader& r, std::string_view defaultKey, bool blankError)
 {
-    WorkingValues& v = r.v;
+    write::WorkingValues& v = r.v;
     return r.ki("[TITLE", v.Title) && (!blankError || r.ki("[BLANK ERROR", v.MSG2)) && r.ki("[ERROR MESSAGE", v.MSG) &&
            r.ki("[TITLE SIZE", v.TitleSize) && r.defaultValue(defaultKey, false, false) && r.info() &&
            r.kc("[ALIGN", v.ALIGN) && r.ki("[WIDTH", v.Width) && r.shade() && r.styles() && r.choices() &&
@@ -194,7 +194,7 @@ bool ReadLoginRow(Reader& r,
                   std::string& secret,
                   bool shade)
 {
-    WorkingValues& v = r.v;
+    write::WorkingValues& v = r.v;
     return r.ki("[TITLE", v.Title) && r.ki("[BLANK ERROR", v.MSG2) && r.ki("[ERROR MESSAGE", v.MSG) &&
            r.ki("[TITLE SIZE", v.TitleSize) && r.defaultValue(defaultKey, true, false) && r.info() &&
            (!optionalDefault || r.optional("[DEFAULT VALUE")) && r.kc("[ALIGN", v.ALIGN) && r.ki(secretKey, secret) &&
@@ -204,7 +204,7 @@ bool ReadLoginRow(Reader& r,
 /// The three CONDITION types; `comment` is CONDITION WITH COMMENT.
 bool ReadConditionRow(Reader& r, bool comment, bool split, std::string_view listKey)
 {
-    WorkingValues& v = r.v;
+    write::WorkingValues& v = r.v;
     const bool head = r.ki("[TITLE", v.Title) && r.ki("[ERROR MESSAGE", v.MSG) && r.ki("[TITLE SIZE", v.TitleSize) &&
                       r.defaultValue("[DEFAULT CONDITION", split, true) && r.choices() && r.list(listKey, v.Choices);
     if (!head)
@@ -220,7 +220,7 @@ bool ReadConditionRow(Reader& r, bool comment, bool split, std::string_view list
 bool ReadRow(Reader& r, model::Recipe recipe, std::string_view inputType)
 {
     using model::Recipe;
-    WorkingValues& v = r.v;
+    write::WorkingValues& v = r.v;
     switch (recipe) {
     case Recipe::Video:
         r.ki("[SERVER VIDEO PATH", v.ServerPath) && r.checkSemicolon(v.ServerPath) && r.kc("[ALIGN", v.VideoAlign) &&
@@ -387,7 +387,7 @@ void ExtractEntry(Session& s, UiPort& ui, std::string_view inputType, std::strin
         return;
     }
     if (s.build.buildError == 0)
-        html::ApplyGlobals(s);
+        ApplyGlobals(s.build.setupValues, s.build.values, model::ModeOf(s.store.state.ProjectMode));
 }
 
 void ExtractHorizontalLine(Session& s, UiPort& ui, std::string& text)
@@ -398,14 +398,14 @@ void ExtractHorizontalLine(Session& s, UiPort& ui, std::string& text)
         if (c != '\r' && c != '\n')
             joined += c;
     text = joined;
-    WorkingValues& v = s.build.values;
+    write::WorkingValues& v = s.build.values;
     Reader r{s, ui, text, v};
     const bool ok = r.ki("[LINE WIDTH", v.LineWidth) && r.ki("[LINE SIZE", v.LineSize) && r.kc("[ALIGN", v.LineAlign) &&
                     r.kc("[LINE COLOR", v.LineColor);
     if (!ok)
         return;
     v.LineColorHex = model::ColorToHex(v.LineColor);
-    html::ApplyGlobals(s);
+    ApplyGlobals(s.build.setupValues, s.build.values, model::ModeOf(s.store.state.ProjectMode));
 }
 
 } // namespace tq::compose

@@ -16,7 +16,7 @@ namespace tq::compose {
 /// working copy; it is consumed) into the build's working values, in the
 /// order of the type's row, each key followed by its help item where the row
 /// asks for one. SETUP reads the SetupEntry (setup_checks.h) and applies no
-/// global overrides; every other type gets html::ApplyGlobals at the end.
+/// global overrides; every other type gets ApplyGlobals at the end.
 /// On a fault the message has been shown and `buildError` is 1; a type that
 /// fits no row sets `buildError` to 5 without a word (the caller reports it).
 /// A list past the bound of its array throws model::InternalError.
@@ -24,7 +24,7 @@ void ExtractEntry(Session& s, UiPort& ui, std::string_view inputType, std::strin
 
 /// A HORIZONTAL LINE's own short extraction: [LINE WIDTH, [LINE SIZE, [ALIGN
 /// and [LINE COLOR, each followed by its help item, then the colour copy and
-/// html::ApplyGlobals. Fills LineWidth, LineSize, LineAlign, LineColor(Hex).
+/// ApplyGlobals. Fills LineWidth, LineSize, LineAlign, LineColor(Hex).
 void ExtractHorizontalLine(Session& s, UiPort& ui, std::string& text);
 
 /// Takes the help item that closes a key: whichever of "[Info" or "[Choices"

@@ -54,7 +54,7 @@ bool StartsWithSemicolon(const std::string& value)
 
 void ExtractSetupEntry(Session& s, UiPort& ui, std::string& text)
 {
-    SetupValues& v = s.build.setupValues;
+    write::SetupValues& v = s.build.setupValues;
     const std::string& mode = s.store.state.ProjectMode;
     const bool preview = s.build.entryPreview;
 

@@ -111,7 +111,7 @@ void RewriteAttribute(Session& s, std::string_view key, std::string_view value, 
     const std::string rewritten = platform::JoinPath(s.DataFolder, "\\temp.txt");
     const std::string upperKey = model::ToUpper(key);
     try {
-        LineWriter& ch3 = s.build.channels[3];
+        write::LineWriter& ch3 = s.build.channels[3];
         ch3.close();
         if (!ch3.open(scratch))
             throw std::runtime_error("cannot open " + scratch);
@@ -126,7 +126,7 @@ void RewriteAttribute(Session& s, std::string_view key, std::string_view value, 
 
         std::ifstream in(scratch, std::ios::binary);
         const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-        LineWriter& ch2 = s.build.channels[2];
+        write::LineWriter& ch2 = s.build.channels[2];
         ch2.close();
         if (!ch2.open(rewritten))
             throw std::runtime_error("cannot open " + rewritten);

@@ -11,7 +11,7 @@ namespace tq::html {
 
 namespace {
 
-compose::LineWriter& Out(Session& s)
+write::LineWriter& Out(Session& s)
 {
     return s.build.channels[1];
 }
@@ -33,7 +33,7 @@ void RecordChoices(Session& s, std::string_view field, std::string& title, const
     NumberForPage(b, title, t);
     if (IsDownload(t)) {
         std::string files = "-";
-        for (int i = 1; i <= b.downloadFileCount && i <= compose::kDownloadFileSlots; ++i)
+        for (int i = 1; i <= b.downloadFileCount && i <= write::kDownloadFileSlots; ++i)
             files += "  " + b.downloadFiles[static_cast<size_t>(i)];
         AppendMessageLine(b, "FILE(S) THAT WERE DOWNLOADED");
         AppendMessageLine(b, files);

@@ -15,7 +15,7 @@ namespace tq::html {
 
 namespace {
 
-compose::LineWriter& Out(Session& s)
+write::LineWriter& Out(Session& s)
 {
     return s.build.channels[1];
 }
@@ -110,7 +110,7 @@ void WriteDownloadList(Session& s)
     WriteItalicOpen(s);
     const bool labels = model::EqualsNoCase(v.ShowFileLabels, "YES");
     const bool left = model::EqualsNoCase(v.ALIGN, "LEFT");
-    for (int i = 1; i <= b.downloadFileCount && i <= compose::kDownloadFileSlots; ++i) {
+    for (int i = 1; i <= b.downloadFileCount && i <= write::kDownloadFileSlots; ++i) {
         if (model::EqualsNoCase(v.VisibleDownload, "NO") || model::EqualsNoCase(v.VisibleDownloadPassword, "NO"))
             break;
         // a number's text keeps its leading blank: the label reads "File  1:"

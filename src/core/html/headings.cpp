@@ -10,7 +10,7 @@ namespace tq::html {
 
 namespace {
 
-compose::LineWriter& Out(Session& s)
+write::LineWriter& Out(Session& s)
 {
     return s.build.channels[1];
 }
@@ -46,7 +46,7 @@ std::string RewriteBlanks(std::string line)
     return line;
 }
 
-std::string FontFaceSize(const compose::WorkingValues& v)
+std::string FontFaceSize(const write::WorkingValues& v)
 {
     return "<font face=" + Quoted(kFace) + " size=" + Quoted(v.TitleSize) + ">";
 }
@@ -185,21 +185,21 @@ bool IsSurvey(const Session& s)
     return model::ModeOf(s.store.state.ProjectMode) == model::Mode::Survey;
 }
 
-void AppendMessageLine(compose::BuildState& b, std::string text)
+void AppendMessageLine(write::BuildState& b, std::string text)
 {
-    if (b.messageLineCount >= compose::kMessageLineSlots)
-        throw model::InternalError("internal error: messageLines bound " + std::to_string(compose::kMessageLineSlots) +
+    if (b.messageLineCount >= write::kMessageLineSlots)
+        throw model::InternalError("internal error: messageLines bound " + std::to_string(write::kMessageLineSlots) +
                                    " passed");
     ++b.messageLineCount;
     b.messageLines[static_cast<size_t>(b.messageLineCount)] = std::move(text);
 }
 
-void NumberForMessage(compose::BuildState& b, std::string& caption, std::string_view inputType)
+void NumberForMessage(write::BuildState& b, std::string& caption, std::string_view inputType)
 {
     caption = PairNumber(b.messageNumber, inputType) + ". " + caption;
 }
 
-void NumberForPage(compose::BuildState& b, std::string& title, std::string_view inputType)
+void NumberForPage(write::BuildState& b, std::string& title, std::string_view inputType)
 {
     if (!model::EqualsNoCase(b.setupValues.NumberEachQuestion, "YES"))
         return;
@@ -208,7 +208,7 @@ void NumberForPage(compose::BuildState& b, std::string& title, std::string_view 
     title = prefix + title;
 }
 
-void RecordQuestion(compose::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType)
+void RecordQuestion(write::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType)
 {
     std::string caption = title;
     NumberForMessage(b, caption, inputType);
@@ -217,7 +217,7 @@ void RecordQuestion(compose::BuildState& b, std::string_view fieldName, std::str
     NumberForPage(b, title, inputType);
 }
 
-void SplitTitle(compose::BuildState& b, std::string_view title)
+void SplitTitle(write::BuildState& b, std::string_view title)
 {
     if (title.empty())
         return;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/build_state.h"
+#include "write/build_state.h"
 
 #include <string>
 #include <string_view>
@@ -27,25 +27,25 @@ std::string PreviewFieldName(std::string_view inputType);
 bool IsSurvey(const Session& s);
 
 /// Appends one element to messageLines; past 500 throws model::InternalError.
-void AppendMessageLine(compose::BuildState& b, std::string text);
+void AppendMessageLine(write::BuildState& b, std::string text);
 
 /// Prefixes the e-mail caption with its number ("4. ", "4a. ", "4b. ") and
 /// advances messageNumber by the pair rule.
-void NumberForMessage(compose::BuildState& b, std::string& caption, std::string_view inputType);
+void NumberForMessage(write::BuildState& b, std::string& caption, std::string_view inputType);
 
 /// With [NUMBER EACH QUESTION=YES, prefixes the page title with its number
 /// ("4. &nbsp;"; a "b" number is indented by three &nbsp;) and advances
 /// questionNumber by the pair rule. Otherwise leaves everything alone.
-void NumberForPage(compose::BuildState& b, std::string& title, std::string_view inputType);
+void NumberForPage(write::BuildState& b, std::string& title, std::string_view inputType);
 
 /// The prologue of a question: the numbered caption and the field name go to
 /// messageLines, then the page title gets its number.
-void RecordQuestion(compose::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType);
+void RecordQuestion(write::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType);
 
 /// Cuts the title at each "\n" (any case) into TitleLines, rewriting runs of
 /// blanks as &nbsp;. An empty title leaves TitleLines as they stand.
 /// More than 150 lines throws model::InternalError.
-void SplitTitle(compose::BuildState& b, std::string_view title);
+void SplitTitle(write::BuildState& b, std::string_view title);
 
 /// The heading of a FORM question on channel 1. The font tag stays open.
 /// The Required value a heading uses: the two password downloads are always

@@ -11,7 +11,7 @@ namespace {
 
 // A first character ";" marks the sample path: no image. An empty path has
 // no first character and so counts as an image.
-bool HasBackgroundImage(const compose::SetupValues& setup)
+bool HasBackgroundImage(const write::SetupValues& setup)
 {
     return setup.BackgroundImagePath.empty() || setup.BackgroundImagePath.front() != ';';
 }

@@ -10,7 +10,7 @@ namespace tq::html {
 
 namespace {
 
-std::string TableFont(const compose::WorkingValues& v)
+std::string TableFont(const write::WorkingValues& v)
 {
     return "<font color=" + Quoted(v.TableTextColorHex) + " size=" + Quoted(v.TitleSize) + " face=" + Quoted(kFace) +
            ">";

@@ -37,7 +37,7 @@ void ShowPairingError(UiPort& ui, const std::string& type, std::string_view must
 // a lead of a pair advances `phpQuestionNumber` and gets " 3a. ", a Followup
 // keeps the number and gets " 3b. ", every other type advances it and gets
 // "3. "; " for question 3a" goes behind.
-void NumberMessages(compose::BuildState& state, model::Numbering numbering, std::string& msg, std::string& msg2)
+void NumberMessages(write::BuildState& state, model::Numbering numbering, std::string& msg, std::string& msg2)
 {
     if (!model::EqualsNoCase(state.setupValues.NumberEachQuestion, "YES"))
         return;
@@ -65,19 +65,19 @@ void NumberMessages(compose::BuildState& state, model::Numbering numbering, std:
 
 // The general writer: the checks of one field on channel 1, from the Entry's
 // values (MSG, MSG2, REQ, USERNAME, PASSWORD), and the new `lastConditionField`.
-void WriteGeneralPhp(compose::BuildState& state, const model::InputType& type, std::string_view keyView)
+void WriteGeneralPhp(write::BuildState& state, const model::InputType& type, std::string_view keyView)
 {
     using model::PhpWriter;
     if (keyView.empty())
         return;
 
     const std::string key(keyView);
-    const compose::WorkingValues& v = state.values;
+    const write::WorkingValues& v = state.values;
     std::string msg = v.MSG;
     std::string msg2 = v.MSG2;
     NumberMessages(state, type.numbering, msg, msg2);
     const bool required = model::EqualsNoCase(v.REQ, "YES");
-    compose::LineWriter& out = state.channels[1];
+    write::LineWriter& out = state.channels[1];
 
     switch (type.php) {
     case PhpWriter::CheckEntry:
@@ -151,10 +151,10 @@ void WriteGeneralPhp(compose::BuildState& state, const model::InputType& type, s
 // follow one of those or a Condition: then it writes its checks on channel 1
 // and its password check on channel 2 (\downtemp.txt). Out of place, it shows
 // the "ERROR" box and sets `buildError` to 1.
-void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, const model::InputType& type, std::string_view keyView)
+void WriteDownloadPhp(UiPort& ui, write::BuildState& state, const model::InputType& type, std::string_view keyView)
 {
     using model::PhpWriter;
-    const compose::WorkingValues& v = state.values;
+    const write::WorkingValues& v = state.values;
     if (keyView.empty() || v.Title.empty())
         return;
     const std::string t(type.name);
@@ -166,7 +166,7 @@ void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, const model::Input
     if (type.php == PhpWriter::FollowupFiles)
         req = "yes";
     const bool required = model::EqualsNoCase(req, "YES");
-    compose::LineWriter& out = state.channels[1];
+    write::LineWriter& out = state.channels[1];
 
     if (type.php == PhpWriter::DownloadFiles) {
         if (!required) {
@@ -210,7 +210,7 @@ void WriteDownloadPhp(UiPort& ui, compose::BuildState& state, const model::Input
 
 } // namespace
 
-void WriteEntryPhp(UiPort& ui, compose::BuildState& state, const model::InputType& type, std::string_view key)
+void WriteEntryPhp(UiPort& ui, write::BuildState& state, const model::InputType& type, std::string_view key)
 {
     switch (type.php) {
     case model::PhpWriter::None:
@@ -226,7 +226,7 @@ void WriteEntryPhp(UiPort& ui, compose::BuildState& state, const model::InputTyp
     }
 }
 
-void WriteEntryPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view key)
+void WriteEntryPhp(UiPort& ui, write::BuildState& state, std::string_view inputType, std::string_view key)
 {
     if (const model::InputType* type = model::FindInputType(inputType))
         WriteEntryPhp(ui, state, *type, key);

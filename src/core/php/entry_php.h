@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/build_state.h"
 #include "model/input_types.h"
 #include "port/ui_port.h"
+#include "write/build_state.h"
 
 #include <string>
 #include <string_view>
@@ -18,10 +18,10 @@ namespace tq::php {
 /// a download type or a Condition: then its password check goes to channel 2
 /// (\downtemp.txt); out of place it shows the "ERROR" box and sets
 /// `buildError` to 1.
-void WriteEntryPhp(UiPort& ui, compose::BuildState& state, const model::InputType& type, std::string_view key);
+void WriteEntryPhp(UiPort& ui, write::BuildState& state, const model::InputType& type, std::string_view key);
 
 /// WriteEntryPhp for a type by name (any case); nothing for a name outside
 /// the table of Input Types.
-void WriteEntryPhp(UiPort& ui, compose::BuildState& state, std::string_view inputType, std::string_view key);
+void WriteEntryPhp(UiPort& ui, write::BuildState& state, std::string_view inputType, std::string_view key);
 
 } // namespace tq::php

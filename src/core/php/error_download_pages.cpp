@@ -10,7 +10,7 @@ namespace tq::php {
 
 namespace {
 
-void WriteLines(compose::LineWriter& out, std::initializer_list<std::string_view> lines)
+void WriteLines(write::LineWriter& out, std::initializer_list<std::string_view> lines)
 {
     for (std::string_view line : lines)
         out.line(line);
@@ -30,10 +30,10 @@ constexpr std::string_view kLinkOpen =
 
 } // namespace
 
-void WriteDownloadFile(compose::LineWriter& out, const compose::BuildState& state, std::string_view serverPath)
+void WriteDownloadFile(write::LineWriter& out, const write::BuildState& state, std::string_view serverPath)
 {
-    CheckCount(state.downloadTextCount, compose::kDownloadTextSlots, "download text");
-    CheckCount(state.downloadFileCount, compose::kDownloadFileSlots, "download file");
+    CheckCount(state.downloadTextCount, write::kDownloadTextSlots, "download text");
+    CheckCount(state.downloadFileCount, write::kDownloadFileSlots, "download file");
 
     WriteLines(out, {
                         R"~(/*************************/)~",
@@ -103,7 +103,7 @@ void WriteDownloadFile(compose::LineWriter& out, const compose::BuildState& stat
                     });
 }
 
-void WriteShowError(compose::LineWriter& out)
+void WriteShowError(write::LineWriter& out)
 {
     WriteLines(
         out,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/build_state.h"
+#include "write/build_state.h"
 
 #include <string_view>
 
@@ -13,10 +13,10 @@ namespace tq::php {
 /// `serverPath` joined to the file name, and a Home button to `homePage`
 /// unless that is empty or "NONE". Throws model::InternalError when a count
 /// passes its table's bound.
-void WriteDownloadFile(compose::LineWriter& out, const compose::BuildState& state, std::string_view serverPath);
+void WriteDownloadFile(write::LineWriter& out, const write::BuildState& state, std::string_view serverPath);
 
 /// Writes the banner and the whole function show_error($myError), which shows
 /// the red error box and ends the script; its last line closes the script.
-void WriteShowError(compose::LineWriter& out);
+void WriteShowError(write::LineWriter& out);
 
 } // namespace tq::php

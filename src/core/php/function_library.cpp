@@ -188,7 +188,7 @@ constexpr std::string_view kLibrary[] = {
 
 } // namespace
 
-void WriteFunctionLibrary(compose::LineWriter& out)
+void WriteFunctionLibrary(write::LineWriter& out)
 {
     for (std::string_view line : kLibrary)
         out.line(line);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/line_writer.h"
+#include "write/line_writer.h"
 
 namespace tq::php {
 
@@ -9,6 +9,6 @@ namespace tq::php {
 /// each under its banner, ending with the empty line after check_entry. The
 /// download page and the error page follow it (WriteDownloadFile,
 /// WriteShowError). Written in every script, whatever the Entries.
-void WriteFunctionLibrary(compose::LineWriter& out);
+void WriteFunctionLibrary(write::LineWriter& out);
 
 } // namespace tq::php

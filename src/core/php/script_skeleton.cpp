@@ -12,7 +12,7 @@ namespace tq::php {
 
 namespace {
 
-void WriteLines(compose::LineWriter& out, std::initializer_list<std::string_view> lines)
+void WriteLines(write::LineWriter& out, std::initializer_list<std::string_view> lines)
 {
     for (std::string_view line : lines)
         out.line(line);
@@ -25,13 +25,13 @@ bool IsRecipient(const std::string& email)
 
 } // namespace
 
-void WriteScriptOpening(compose::LineWriter& out)
+void WriteScriptOpening(write::LineWriter& out)
 {
     out.line("<?php");
     out.line("");
 }
 
-void WriteValidationBanner(compose::LineWriter& out, const compose::SetupValues& setup)
+void WriteValidationBanner(write::LineWriter& out, const write::SetupValues& setup)
 {
     std::string to = "$to  = \"" + setup.EMAIL1;
     if (IsRecipient(setup.EMAIL2))
@@ -53,14 +53,14 @@ void WriteValidationBanner(compose::LineWriter& out, const compose::SetupValues&
                     });
 }
 
-void WriteOptionLines(compose::LineWriter& out)
+void WriteOptionLines(write::LineWriter& out)
 {
     WriteLines(out, {"", "$option = $_POST['option'];", "$drop_down = $_POST['drop_down'];"});
 }
 
-void WriteMessageBody(compose::LineWriter& out, const compose::BuildState& state)
+void WriteMessageBody(write::LineWriter& out, const write::BuildState& state)
 {
-    if (state.messageLineCount < 0 || state.messageLineCount > compose::kMessageLineSlots)
+    if (state.messageLineCount < 0 || state.messageLineCount > write::kMessageLineSlots)
         throw model::InternalError("internal error: message line count " + std::to_string(state.messageLineCount) +
                                    " out of range");
     for (int i = 1; i <= state.messageLineCount; i += 2) {
@@ -90,9 +90,9 @@ void WriteMessageBody(compose::LineWriter& out, const compose::BuildState& state
     }
 }
 
-void WriteScriptTail(compose::LineWriter& out, const compose::BuildState& state, std::string_view serverPath)
+void WriteScriptTail(write::LineWriter& out, const write::BuildState& state, std::string_view serverPath)
 {
-    const compose::SetupValues& setup = state.setupValues;
+    const write::SetupValues& setup = state.setupValues;
     WriteLines(out, {
                         "",
                         "/***********************************/",

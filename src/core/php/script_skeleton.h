@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/build_state.h"
+#include "write/build_state.h"
 
 #include <string_view>
 
@@ -12,27 +12,27 @@ namespace tq::php {
 // between; these only write lines.
 
 /// The opening: "<?php" and an empty line.
-void WriteScriptOpening(compose::LineWriter& out);
+void WriteScriptOpening(write::LineWriter& out);
 
 /// The recipients line, EMAIL2 and EMAIL3 each left out when empty or "NONE",
 /// and the "Validation Code" banner under which the per-entry checks follow.
-void WriteValidationBanner(compose::LineWriter& out, const compose::SetupValues& setup);
+void WriteValidationBanner(write::LineWriter& out, const write::SetupValues& setup);
 
 /// The "$option" and "$drop_down" lines, written when `optionPending` is set.
-void WriteOptionLines(compose::LineWriter& out);
+void WriteOptionLines(write::LineWriter& out);
 
 /// Everything behind the download checks: date, headers, subject
 /// (`mailSubject`), the message from `messageLines`, mail and redirect to
 /// COMPLETED, the function library, download_file (links under `serverPath`)
 /// and show_error, whose last line closes the script. Throws
 /// model::InternalError when a table count passes its bound.
-void WriteScriptTail(compose::LineWriter& out, const compose::BuildState& state, std::string_view serverPath);
+void WriteScriptTail(write::LineWriter& out, const write::BuildState& state, std::string_view serverPath);
 
 /// Writes the e-mail body from `messageLines`, two slots per field: the label
 /// (a backslash-n makes a line break, or is dropped at the very start; every
 /// "&nbsp;" is removed; a label holding "B." gets an empty line behind it),
 /// then "$" and the variable name, or the fixed text behind a leading "-".
 /// Throws model::InternalError when `messageLineCount` passes the table.
-void WriteMessageBody(compose::LineWriter& out, const compose::BuildState& state);
+void WriteMessageBody(write::LineWriter& out, const write::BuildState& state);
 
 } // namespace tq::php

@@ -184,12 +184,12 @@ void ViewTarnquillFolder(std::string_view dataFolder, UiPort& ui)
     OpenTarget(std::string(dataFolder), "", "", ui);
 }
 
-void ViewFolder(const compose::BuildState& build, UiPort& ui)
+void ViewFolder(const write::BuildState& build, UiPort& ui)
 {
     OpenTarget(show::RemoveTrailingSeparator(build.setupValues.WebFolder), "", "", ui);
 }
 
-bool ShowOutputInEditor(const compose::BuildState& build, UiPort& ui)
+bool ShowOutputInEditor(const write::BuildState& build, UiPort& ui)
 {
     if (build.htmlPath.empty())
         return false;

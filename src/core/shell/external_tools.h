@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/build_state.h"
 #include "port/ui_port.h"
 #include "store/setup_store.h"
+#include "write/build_state.h"
 
 #include <string>
 #include <string_view>
@@ -52,11 +52,11 @@ void ViewTarnquillFolder(std::string_view dataFolder, UiPort& ui);
 
 /// ViewFolder (final page): opens the output folder of the last build with
 /// its trailing separator removed; nothing when there was no build.
-void ViewFolder(const compose::BuildState& build, UiPort& ui);
+void ViewFolder(const write::BuildState& build, UiPort& ui);
 
 /// ShowOutputInEditor: opens the last output file (the page) with the
 /// desktop's handler; nothing when there was no build. Returns true when it
 /// was opened.
-bool ShowOutputInEditor(const compose::BuildState& build, UiPort& ui);
+bool ShowOutputInEditor(const write::BuildState& build, UiPort& ui);
 
 } // namespace tq::shell

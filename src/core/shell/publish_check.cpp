@@ -73,7 +73,7 @@ int PhpErrorLine(std::string_view phpOutput)
     return line;
 }
 
-std::string PublishWarning(const compose::BuildState& build, std::string_view phpOutput, std::string_view script)
+std::string PublishWarning(const write::BuildState& build, std::string_view phpOutput, std::string_view script)
 {
     const std::string file = std::filesystem::path(build.phpPath).filename().string();
     const int lineNumber = PhpErrorLine(phpOutput);
@@ -93,7 +93,7 @@ std::string PublishWarning(const compose::BuildState& build, std::string_view ph
     return "WARNING: PHP cannot run " + file + where + ": " + PhpWords(phpOutput);
 }
 
-PublishCheck CheckPublishedScript(const compose::BuildState& build, UiPort& ui)
+PublishCheck CheckPublishedScript(const write::BuildState& build, UiPort& ui)
 {
     PublishCheck result;
     if (build.phpPath.empty())

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/build_state.h"
 #include "port/ui_port.h"
+#include "write/build_state.h"
 
 #include <string>
 #include <string_view>
@@ -28,11 +28,11 @@ int PhpErrorLine(std::string_view phpOutput);
 /// field name of an Entry of the build's flat list that PHP cannot take as a
 /// variable (the blank inside "cell 11"), and that Entry's Input Type is
 /// named. Without such a name the line carries php's own words.
-std::string PublishWarning(const compose::BuildState& build, std::string_view phpOutput, std::string_view script);
+std::string PublishWarning(const write::BuildState& build, std::string_view phpOutput, std::string_view script);
 
 /// Runs "php -l" on the script of the last build (through the port) and
 /// tells what it found. Not checked when there was no script or php could not
 /// be run. The generated files are only read.
-PublishCheck CheckPublishedScript(const compose::BuildState& build, UiPort& ui);
+PublishCheck CheckPublishedScript(const write::BuildState& build, UiPort& ui);
 
 } // namespace tq::shell

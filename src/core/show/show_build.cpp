@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "show/show_build.h"
 
-#include "compose/line_writer.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "show/show_file.h"
 #include "store/recent_history.h"
+#include "write/line_writer.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -237,7 +237,7 @@ bool BuildShow(Session& session, std::string_view programFolder, UiPort& ui)
         text = ss.str();
     }
 
-    compose::LineWriter out;
+    write::LineWriter out;
     const std::string showPath = platform::JoinPath(folder, "\\photoshow.php");
     errno = 0;
     if (!out.open(showPath)) {

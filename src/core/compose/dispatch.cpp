@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "html/dispatch.h"
+#include "compose/dispatch.h"
 
 #include "compose/extraction.h"
 #include "compose/php_pass.h"
@@ -14,7 +14,7 @@
 
 #include <utility>
 
-namespace tq::html {
+namespace tq::compose {
 
 namespace {
 
@@ -26,49 +26,49 @@ void WriteQuestion(Session& s, UiPort& ui, HtmlWriter writer, const std::string&
     const auto& v = s.build.values;
     switch (writer) {
     case HtmlWriter::FormText:
-        WriteFormText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
+        html::WriteFormText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::SurveyText:
-        WriteSurveyText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
+        html::WriteSurveyText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormChoices:
-        WriteFormChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteFormChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormTableChoices:
-        WriteFormChoices(s, field, v.ColChoice, t, v.DefaultValue, v.REQ);
+        html::WriteFormChoices(s, field, v.ColChoice, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::SurveyChoices:
-        WriteSurveyChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteSurveyChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::ConditionDropdown:
-        WriteConditionDropdown(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteConditionDropdown(s, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::ConditionChoices:
-        WriteConditionChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteConditionChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::TableText:
-        WriteTableText(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteTableText(s, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::TableChoices:
-        WriteTableChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteTableChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormDropdown:
-        WriteFormDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
+        html::WriteFormDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
         return;
     case HtmlWriter::SurveyDropdown:
-        WriteSurveyDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
+        html::WriteSurveyDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
         return;
     case HtmlWriter::FormCheckboxes:
-        WriteFormCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteFormCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::SurveyCheckboxes:
-        WriteSurveyCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteSurveyCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormComments:
-        WriteFormComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
+        html::WriteFormComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
         return;
     case HtmlWriter::SurveyComments:
-        WriteSurveyComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
+        html::WriteSurveyComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
         return;
     default:
         return;
@@ -77,7 +77,7 @@ void WriteQuestion(Session& s, UiPort& ui, HtmlWriter writer, const std::string&
 
 } // namespace
 
-void ClearEntryValues(compose::WorkingValues& v)
+void ClearEntryValues(write::WorkingValues& v)
 {
     v.DefaultValue.clear();
     v.VisibleDownload.clear();
@@ -112,20 +112,20 @@ void DispatchEntry(Session& s,
     if (row && row->recipe == model::Recipe::HorizontalLine) {
         if (pass != 1)
             return;
-        compose::ExtractHorizontalLine(s, ui, text);
+        ExtractHorizontalLine(s, ui, text);
         if (b.buildError == 1)
             return;
-        WriteHorizontalLine(s);
+        html::WriteHorizontalLine(s);
         return;
     }
 
-    compose::ExtractEntry(s, ui, inputType, text);
+    ExtractEntry(s, ui, inputType, text);
     if (b.buildError == 1 || !row)
         return;
 
     if (pass != 1) {
         if (row->php != model::PhpWriter::None)
-            compose::WriteEntryPhp(s, ui, *row, fieldName);
+            WriteEntryPhp(s, ui, *row, fieldName);
         return;
     }
 
@@ -136,16 +136,16 @@ void DispatchEntry(Session& s,
     case HtmlWriter::HorizontalLine:
         return;
     case HtmlWriter::TitleShade:
-        WriteTitleShade(s);
+        html::WriteTitleShade(s);
         return;
     case HtmlWriter::BlankLine:
-        WriteBlankLine(s);
+        html::WriteBlankLine(s);
         return;
     case HtmlWriter::Video:
-        WriteVideo(s, ui);
+        html::WriteVideo(s, ui);
         return;
     case HtmlWriter::Picture:
-        WritePicture(s);
+        html::WritePicture(s);
         return;
     default:
         WriteQuestion(s, ui, w.writer, fieldName, std::string(row->name));
@@ -158,4 +158,4 @@ void DispatchEntry(Session& s,
         b.lastConditionField = fieldName + "d";
 }
 
-} // namespace tq::html
+} // namespace tq::compose

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-namespace tq {
-struct Session;
-}
+#include "model/input_types.h"
+#include "write/working_values.h"
 
-namespace tq::html {
+namespace tq::compose {
 
 /// The SetupEntry's overrides, run at the end of every extraction but the
 /// SetupEntry's own. A global alignment other than "NONE" replaces the Entry's,
@@ -13,6 +12,6 @@ namespace tq::html {
 /// colour to "0" when the frame is off or the mode is SURVEY; a global text
 /// colour other than "NONE" then replaces hex(TEXT COLOR). The table colours,
 /// the submit and cancel colours are never touched.
-void ApplyGlobals(Session& s);
+void ApplyGlobals(write::SetupValues& setup, write::WorkingValues& v, model::Mode mode);
 
-} // namespace tq::html
+} // namespace tq::compose

@@ -1,25 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "html/globals.h"
+#include "compose/globals.h"
 
-#include "html/headings.h"
-#include "html/html_text.h"
 #include "model/attribute_text.h"
 #include "model/text_ops.h"
-#include "session.h"
 
-namespace tq::html {
+namespace tq::compose {
 
-void ApplyGlobals(Session& s)
+void ApplyGlobals(write::SetupValues& setup, write::WorkingValues& v, model::Mode mode)
 {
-    auto& setup = s.build.setupValues;
-    auto& v = s.build.values;
     if (!model::EqualsNoCase(setup.GlobalAlign, "NONE")) {
         setup.SubmitAlign = setup.GlobalAlign;
         v.ALIGN = setup.GlobalAlign;
         v.LineAlign = setup.GlobalAlign;
         v.VideoAlign = setup.GlobalAlign;
         // the colour text itself, which the font tags then show as color="0"
-        if (setup.FrameOff == 1 || IsSurvey(s)) {
+        if (setup.FrameOff == 1 || mode == model::Mode::Survey) {
             v.TextColor = "0";
             v.TextColorHex = "0";
         }
@@ -30,4 +25,4 @@ void ApplyGlobals(Session& s)
     }
 }
 
-} // namespace tq::html
+} // namespace tq::compose

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/working_values.h"
 #include "session.h"
+#include "write/working_values.h"
 
 #include <string>
 #include <string_view>
 
-namespace tq::html {
+namespace tq::compose {
 
 /// Clears the values of one Entry before its extraction: default value, the
 /// visible-download values, title, password, width, height, user name,
 /// error texts, required value, and the lists of choices, check boxes,
 /// default lines and introduction lines.
-void ClearEntryValues(compose::WorkingValues& v);
+void ClearEntryValues(write::WorkingValues& v);
 
 /// The one road of every Entry in both passes: looks the type up in the
 /// table of Input Types, clears the Entry values, extracts the attributes
@@ -27,4 +27,4 @@ void DispatchEntry(Session& s,
                    const std::string& inputType,
                    const std::string& attributeText);
 
-} // namespace tq::html
+} // namespace tq::compose

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace tq::compose {
+namespace tq::write {
 
 /// The SetupEntry's values as read at the start of a build (20 keys in order).
 struct SetupValues
@@ -110,4 +110,4 @@ struct WorkingValues
     std::string LeftMargin;
 };
 
-} // namespace tq::compose
+} // namespace tq::write

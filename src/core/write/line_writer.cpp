@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "compose/line_writer.h"
+#include "write/line_writer.h"
 
 #include "port/file_system.h"
 
 #include <cerrno>
 
-namespace tq::compose {
+namespace tq::write {
 
 using platform::WriteFault;
 using platform::WriteStep;
@@ -90,4 +90,4 @@ void LineWriter::close()
     m_temp.clear();
 }
 
-} // namespace tq::compose
+} // namespace tq::write

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace tq::compose {
+namespace tq::write {
 
 /// One numbered output channel: bytes to a file, each line ended by CR LF.
 /// The lines go to a temporary name beside the file (the name + ".tqtmp"),
@@ -63,4 +63,4 @@ struct Channels
     }
 };
 
-} // namespace tq::compose
+} // namespace tq::write

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "compose/line_writer.h"
-#include "compose/working_values.h"
 #include "model/entry_store.h"
+#include "write/line_writer.h"
+#include "write/working_values.h"
 
 #include <array>
 #include <string>
 
-namespace tq::compose {
+namespace tq::write {
 
 constexpr int kMessageLineSlots = 500;
 constexpr int kDownloadTextSlots = 150;
@@ -70,4 +70,4 @@ struct BuildState
     WorkingValues values;
 };
 
-} // namespace tq::compose
+} // namespace tq::write
