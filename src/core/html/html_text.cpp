@@ -5,14 +5,6 @@
 
 namespace tq::html {
 
-std::string Quoted(std::string_view text)
-{
-    std::string out = "\"";
-    out += text;
-    out += '"';
-    return out;
-}
-
 std::string Repeat(std::string_view piece, int times)
 {
     std::string out;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/text_ops.h"
+
 #include <string>
 #include <string_view>
 
 namespace tq::html {
 
-/// `text` between two double quotes.
-std::string Quoted(std::string_view text);
+using model::Quoted;
 /// `piece` repeated `times` times.
 std::string Repeat(std::string_view piece, int times);
 /// A switch value of the attributes: "ON" in any case.

@@ -17,6 +17,8 @@ std::string ToLower(std::string_view s);
 /// The text with its first character in upper case and the rest in lower
 /// case ("survey" and "SURVEY" give "Survey").
 std::string ToProperCase(std::string_view s);
+/// `text` between two double quotes, as the page and the script write values.
+std::string Quoted(std::string_view text);
 /// True when the two texts are equal after upper-casing.
 bool EqualsNoCase(std::string_view a, std::string_view b);
 /// True when `s` begins with `prefix`, compared after upper-casing.

@@ -7,21 +7,17 @@ namespace tq::php {
 
 namespace {
 
-std::string Q(std::string_view s)
-{
-    return "\"" + std::string(s) + "\"";
-}
-
 // "$key = $_POST["key"];"
 std::string TakePost(std::string_view key)
 {
-    return "$" + std::string(key) + " = $_POST[" + Q(key) + "];";
+    return "$" + std::string(key) + " = $_POST[" + model::Quoted(key) + "];";
 }
 
 // "$key = check_entry($_POST["key"],"message");"
 std::string CheckEntry(std::string_view key, std::string_view message)
 {
-    return "$" + std::string(key) + " = check_entry($_POST[" + Q(key) + "]," + Q(message) + ");";
+    return "$" + std::string(key) + " = check_entry($_POST[" + model::Quoted(key) + "]," + model::Quoted(message) +
+           ");";
 }
 
 void ShowPairingError(UiPort& ui, const std::string& type, std::string_view mustFollow)
@@ -92,14 +88,14 @@ void WriteGeneralPhp(write::BuildState& state, const model::InputType& type, std
         if (required) {
             out.line(CheckEntry(key, msg2));
             // every required EMAIL lands in $email: a second one overwrites it
-            out.line("$email = validate_email($_POST[" + Q(key) + "], " + Q(msg) + ");");
+            out.line("$email = validate_email($_POST[" + model::Quoted(key) + "], " + model::Quoted(msg) + ");");
         } else {
             out.line(TakePost(key));
         }
         return;
     case PhpWriter::YesNo:
         if (required) {
-            out.line("$" + key + " = validate_yesno($_POST[" + Q(key) + "], " + Q(msg) + ");");
+            out.line("$" + key + " = validate_yesno($_POST[" + model::Quoted(key) + "], " + model::Quoted(msg) + ");");
             state.lastConditionField = key;
         } else {
             out.line(TakePost(key));
@@ -111,20 +107,20 @@ void WriteGeneralPhp(write::BuildState& state, const model::InputType& type, std
         // script does not run. The edit and list checks guard against that.
         const char* check = type.php == PhpWriter::FollowupDropdown ? "validate_radio_notselected" : "validate_radio";
         out.line(TakePost(key));
-        out.line(std::string(check) + "($" + state.lastConditionField + ",$" + key + "," + Q(msg) + ");");
+        out.line(std::string(check) + "($" + state.lastConditionField + ",$" + key + "," + model::Quoted(msg) + ");");
         out.line("");
         state.lastConditionField.clear();
         return;
     }
     case PhpWriter::Dropdown:
         out.line(TakePost(key));
-        out.line("validate_radio_dropdown_notselected($" + key + "," + Q(msg) + ");");
+        out.line("validate_radio_dropdown_notselected($" + key + "," + model::Quoted(msg) + ");");
         out.line("");
         state.lastConditionField.clear();
         return;
     case PhpWriter::Checkbox:
         if (required)
-            out.line("$" + key + " = validate_check($_POST[" + Q(key) + "], " + Q(msg) + ");");
+            out.line("$" + key + " = validate_check($_POST[" + model::Quoted(key) + "], " + model::Quoted(msg) + ");");
         else
             out.line(TakePost(key));
         out.line("$" + key + " = getresults_check($" + key + ");");
@@ -134,7 +130,8 @@ void WriteGeneralPhp(write::BuildState& state, const model::InputType& type, std
             const std::string& expected = type.id == model::InputTypeId::UserName ? v.USERNAME : v.PASSWORD;
             out.line(CheckEntry(key, msg2));
             // the raw field, not the cleaned variable, is compared: exact and case-sensitive
-            out.line("$" + key + " = validate_userpass($_POST[" + Q(key) + "]," + Q(expected) + "," + Q(msg) + ");");
+            out.line("$" + key + " = validate_userpass($_POST[" + model::Quoted(key) + "]," + model::Quoted(expected) +
+                     "," + model::Quoted(msg) + ");");
             out.line("");
             state.lastConditionField = key;
         } else {
@@ -203,8 +200,8 @@ void WriteDownloadPhp(UiPort& ui, write::BuildState& state, const model::InputTy
     out.line(TakePost(key));
     out.line(CheckEntry(key, msg2));
     // the password check goes to \downtemp.txt so that it stands behind all others
-    state.channels[2].line("$" + key + " = validate_userpass_download($_POST[" + Q(key) + "]," + Q(v.PASSWORD) + ", " +
-                           Q(msg) + ");");
+    state.channels[2].line("$" + key + " = validate_userpass_download($_POST[" + model::Quoted(key) + "]," +
+                           model::Quoted(v.PASSWORD) + ", " + model::Quoted(msg) + ");");
     state.lastConditionField.clear();
 }
 
