@@ -45,7 +45,7 @@ TEST(EntryWriters, CentredBoldTitleShade)
         v.TitleSize = "5";
         v.Italics = "OFF";
         v.Bold = "On";
-        EXPECT_EQ(Capture(*s, [&] { tq::html::WriteTitleShade(*s); }), Golden("title_shade_center.htm")) << mode;
+        EXPECT_EQ(Capture(*s, [&] { tq::html::WriteTitleShade(s->build); }), Golden("title_shade_center.htm")) << mode;
     }
 }
 
@@ -68,7 +68,8 @@ TEST(EntryWriters, SurveyVideoSuffixesAreTestedApartAndAnUnknownOneIsReported)
         v.Autostart = "off";
         v.Loop = "infinite";
         ScriptedPort port;
-        EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(*s, port); }), golden ? Golden(golden) : "");
+        EXPECT_EQ(Capture(*s, [&] { tq::html::WriteVideo(s->build, tq::model::Mode::Survey, port); }),
+                  golden ? Golden(golden) : "");
         if (golden)
             EXPECT_TRUE(port.shown.empty());
         else
@@ -85,5 +86,6 @@ TEST(EntryWriters, AFormPictureAfterAPhpPassEndingInSlotThreeHasNoBreaks)
     s->build.values.PictureWidth = "200";
     s->build.values.PictureHeight = "100";
     s->build.lastPhpSlot = 3;
-    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(*s); }), Golden("picture_survey.htm"));
+    EXPECT_EQ(Capture(*s, [&] { tq::html::WritePicture(s->build, tq::model::Mode::Form); }),
+              Golden("picture_survey.htm"));
 }

@@ -5,6 +5,7 @@
 #include "html/choice_inputs.h"
 #include "html/conditions.h"
 #include "html/text_inputs.h"
+#include "model/input_types.h"
 #include "scripted_port.h"
 #include "session.h"
 
@@ -131,28 +132,35 @@ inline std::string WriteQuestion(HtmlFixture& f, const QuestionCase& c)
     namespace html = tq::html;
     c.Prepare(f);
     const bool survey = c.Mode() == "SURVEY";
+    const model::Mode mode = survey ? model::Mode::Survey : model::Mode::Form;
     const std::string& t = c.type;
+    const model::InputType* row = model::FindInputType(t);
+    EXPECT_NE(row, nullptr) << t;
+    if (!row)
+        return {};
+    auto& b = f.s.build;
     auto starts = [&](const char* p) { return t.rfind(p, 0) == 0; };
     if (t == "CONDITION WITH MULTIPLE CHOICES")
-        html::WriteConditionChoices(f.s, c.field, c.title, t, c.defaultValue, c.required);
+        html::WriteConditionChoices(b, mode, c.field, c.title, *row, c.defaultValue, c.required);
     else if (t == "CONDITION WITH DROPDOWN")
-        html::WriteConditionDropdown(f.s, c.field, c.title, t, c.defaultValue, c.required);
+        html::WriteConditionDropdown(b, mode, c.field, c.title, *row, c.defaultValue, c.required);
     else if (starts("CHECKBOX"))
-        (survey ? html::WriteSurveyCheckboxes : html::WriteFormCheckboxes)(f.s, f.port, c.field, c.title, t,
-                                                                           c.defaultValue, c.required);
+        survey ? html::WriteSurveyCheckboxes(b, mode, f.port, c.field, c.title, *row, c.defaultValue, c.required)
+               : html::WriteFormCheckboxes(b, f.port, c.field, c.title, *row, c.defaultValue, c.required);
     else if (starts("DROPDOWN") || t == "FOLLOWUP WITH DROPDOWN")
-        (survey ? html::WriteSurveyDropdown : html::WriteFormDropdown)(f.s, c.field, c.title, c.defaultValue, t,
-                                                                       c.required);
+        survey ? html::WriteSurveyDropdown(b, mode, c.field, c.title, c.defaultValue, *row, c.required)
+               : html::WriteFormDropdown(b, c.field, c.title, c.defaultValue, *row, c.required);
     else if (starts("QUESTION") || starts("DOWNLOAD") || starts("TABLE") || t == "CONDITION WITH COMMENT" ||
              t == "FOLLOWUP WITH MULTIPLE CHOICES")
-        (survey ? html::WriteSurveyChoices : html::WriteFormChoices)(f.s, c.field, c.title, t, c.defaultValue,
+        (survey ? html::WriteSurveyChoices : html::WriteFormChoices)(b, mode, c.field, c.title, *row, c.defaultValue,
                                                                      c.required);
     else if (starts("COMMENTS") || t == "FOLLOWUP WITH COMMENT")
-        (survey ? html::WriteSurveyComments : html::WriteFormComments)(f.s, c.field, c.title, c.width, c.height,
-                                                                       c.defaultValue, t, c.required);
+        survey
+            ? html::WriteSurveyComments(b, mode, c.field, c.title, c.width, c.height, c.defaultValue, *row, c.required)
+            : html::WriteFormComments(b, c.field, c.title, c.width, c.height, c.defaultValue, *row, c.required);
     else
-        (survey ? html::WriteSurveyText : html::WriteFormText)(f.s, c.field, c.title, "pw", c.width, t, c.defaultValue,
-                                                               c.required);
+        survey ? html::WriteSurveyText(b, mode, c.field, c.title, "pw", c.width, *row, c.defaultValue, c.required)
+               : html::WriteFormText(b, c.field, c.title, "pw", c.width, *row, c.defaultValue, c.required);
     return f.Output();
 }
 

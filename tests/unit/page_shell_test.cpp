@@ -96,8 +96,9 @@ TEST(PageShell, HeadAndCloseMatchTheGoldenPages)
         c.edit(*s);
         tq::test::TempDir dir;
         ASSERT_TRUE(s->build.channels[1].open(dir.file("page.htm")));
-        tq::html::WritePageHead(*s);
-        tq::html::WritePageClose(*s, c.survey ? "Submit Survey" : "Submit Form");
+        const auto mode = c.survey ? tq::model::Mode::Survey : tq::model::Mode::Form;
+        tq::html::WritePageHead(s->build, mode);
+        tq::html::WritePageClose(s->build, mode, c.survey ? "Submit Survey" : "Submit Form");
         s->build.channels.closeAll();
         EXPECT_EQ(ReadFileBytes(dir.file("page.htm")),
                   ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/html/page_shell/" + c.golden))

@@ -34,7 +34,8 @@ TEST(Tables, TextTableShowsRequiredAndOnlyTheNumberOfANumberedCaption)
     v.RowChoices.push("Good");
     v.RowChoices.push("Bad");
     f.s.build.setupValues.NumberEachQuestion = "YES";
-    html::WriteTableText(f.s, "table9", "ignored", "TABLE TEXT REQUIRED", "", "yes");
+    html::WriteTableText(f.s.build, tq::model::Mode::Survey, "table9", "ignored",
+                         tq::model::InputTypeRow(tq::model::InputTypeId::TableTextRequired), "", "yes");
     EXPECT_EQ(f.Output(), Golden("survey/table_text_required_numbered.htm"));
     EXPECT_EQ(f.s.build.messageLineCount, 2);
     EXPECT_EQ(f.s.build.messageLines[1] + " " + f.s.build.messageLines[2], "1. Service table9");
@@ -51,7 +52,8 @@ TEST(Tables, ChoicesTableInAWholePageIsADocumentOfItsOwnWithTheStarInTheCaption)
     v.ColChoice = "Rate\\nus";
     for (const char* c : {"1", "2", "3"})
         v.RowChoices.push(c);
-    html::WriteTableChoices(f.s, "table9", "", "TABLE CHOICES REQUIRED", "", "YES");
+    html::WriteTableChoices(f.s.build, tq::model::Mode::Survey, "table9", "",
+                            tq::model::InputTypeRow(tq::model::InputTypeId::TableChoicesRequired), "", "YES");
     EXPECT_EQ(f.Output(), Golden("survey/table_choices_required_whole_page.htm"));
     EXPECT_EQ(f.s.build.messageLines[1], "1. Rate");
 }

@@ -21,54 +21,59 @@ namespace {
 using model::HtmlWriter;
 
 // The question writers of both modes, by the row's writer.
-void WriteQuestion(Session& s, UiPort& ui, HtmlWriter writer, const std::string& field, const std::string& t)
+void WriteQuestion(write::BuildState& b,
+                   model::Mode mode,
+                   UiPort& ui,
+                   HtmlWriter writer,
+                   const std::string& field,
+                   const model::InputType& t)
 {
-    const auto& v = s.build.values;
+    const auto& v = b.values;
     switch (writer) {
     case HtmlWriter::FormText:
-        html::WriteFormText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
+        html::WriteFormText(b, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::SurveyText:
-        html::WriteSurveyText(s, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
+        html::WriteSurveyText(b, mode, field, v.Title, v.PASSWORD, v.Width, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormChoices:
-        html::WriteFormChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteFormChoices(b, mode, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormTableChoices:
-        html::WriteFormChoices(s, field, v.ColChoice, t, v.DefaultValue, v.REQ);
+        html::WriteFormChoices(b, mode, field, v.ColChoice, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::SurveyChoices:
-        html::WriteSurveyChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteSurveyChoices(b, mode, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::ConditionDropdown:
-        html::WriteConditionDropdown(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteConditionDropdown(b, mode, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::ConditionChoices:
-        html::WriteConditionChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteConditionChoices(b, mode, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::TableText:
-        html::WriteTableText(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteTableText(b, mode, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::TableChoices:
-        html::WriteTableChoices(s, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteTableChoices(b, mode, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormDropdown:
-        html::WriteFormDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
+        html::WriteFormDropdown(b, field, v.Title, v.DefaultValue, t, v.REQ);
         return;
     case HtmlWriter::SurveyDropdown:
-        html::WriteSurveyDropdown(s, field, v.Title, v.DefaultValue, t, v.REQ);
+        html::WriteSurveyDropdown(b, mode, field, v.Title, v.DefaultValue, t, v.REQ);
         return;
     case HtmlWriter::FormCheckboxes:
-        html::WriteFormCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteFormCheckboxes(b, ui, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::SurveyCheckboxes:
-        html::WriteSurveyCheckboxes(s, ui, field, v.Title, t, v.DefaultValue, v.REQ);
+        html::WriteSurveyCheckboxes(b, mode, ui, field, v.Title, t, v.DefaultValue, v.REQ);
         return;
     case HtmlWriter::FormComments:
-        html::WriteFormComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
+        html::WriteFormComments(b, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
         return;
     case HtmlWriter::SurveyComments:
-        html::WriteSurveyComments(s, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
+        html::WriteSurveyComments(b, mode, field, v.Title, v.Width, v.Height, v.DefaultValue, t, v.REQ);
         return;
     default:
         return;
@@ -115,7 +120,7 @@ void DispatchEntry(Session& s,
         ExtractHorizontalLine(s, ui, text);
         if (b.buildError == 1)
             return;
-        html::WriteHorizontalLine(s);
+        html::WriteHorizontalLine(b);
         return;
     }
 
@@ -136,19 +141,19 @@ void DispatchEntry(Session& s,
     case HtmlWriter::HorizontalLine:
         return;
     case HtmlWriter::TitleShade:
-        html::WriteTitleShade(s);
+        html::WriteTitleShade(b);
         return;
     case HtmlWriter::BlankLine:
-        html::WriteBlankLine(s);
+        html::WriteBlankLine(b);
         return;
     case HtmlWriter::Video:
-        html::WriteVideo(s, ui);
+        html::WriteVideo(b, mode, ui);
         return;
     case HtmlWriter::Picture:
-        html::WritePicture(s);
+        html::WritePicture(b, mode);
         return;
     default:
-        WriteQuestion(s, ui, w.writer, fieldName, std::string(row->name));
+        WriteQuestion(b, mode, ui, w.writer, fieldName, *row);
         // the script's mail subject; kept for later builds of this run
         if (row->id == model::InputTypeId::Subject && mode == model::Mode::Form)
             b.mailSubject = v.DefaultValue;

@@ -5,33 +5,26 @@
 #include "html/headings.h"
 #include "html/html_text.h"
 #include "model/text_ops.h"
-#include "session.h"
 
 namespace tq::html {
 
 namespace {
 
-write::LineWriter& Out(Session& s)
+write::LineWriter& Out(write::BuildState& b)
 {
-    return s.build.channels[1];
-}
-
-bool IsDownload(const std::string& t)
-{
-    return t == "DOWNLOAD FILES" || t == "DOWNLOAD FILES WITH PASSWORD";
+    return b.channels[1];
 }
 
 // Steps shared by both radio writers: the caption and field (a download with
 // password records no field), the page number, and a download's file list.
-void RecordChoices(Session& s, std::string_view field, std::string& title, const std::string& t)
+void RecordChoices(write::BuildState& b, std::string_view field, std::string& title, const model::InputType& type)
 {
-    auto& b = s.build;
     std::string caption = title;
-    NumberForMessage(b, caption, t);
+    NumberForMessage(b, caption, type);
     AppendMessageLine(b, caption);
-    AppendMessageLine(b, t == "DOWNLOAD FILES WITH PASSWORD" ? std::string() : std::string(field));
-    NumberForPage(b, title, t);
-    if (IsDownload(t)) {
+    AppendMessageLine(b, type.id == model::InputTypeId::DownloadFilesWithPassword ? std::string() : std::string(field));
+    NumberForPage(b, title, type);
+    if (IsDownload(type)) {
         std::string files = "-";
         for (int i = 1; i <= b.downloadFileCount && i <= write::kDownloadFileSlots; ++i)
             files += "  " + b.downloadFiles[static_cast<size_t>(i)];
@@ -46,14 +39,14 @@ std::string CheckboxPiece(std::string_view field, std::string_view choice)
            " value=" + Quoted(choice);
 }
 
-void CheckNoValue(Session& s, UiPort& ui, const std::string& title)
+void CheckNoValue(write::BuildState& b, UiPort& ui, const std::string& title)
 {
-    const auto& boxes = s.build.values.CheckBoxes;
+    const auto& boxes = b.values.CheckBoxes;
     if (title.empty() || (boxes.count() > 0 && !boxes.at(1).empty()))
         return;
     ui.message("No entry for " + title + "\rThere must be a value in the first entry", "NO VALUE", Icon::Critical);
-    s.build.channels.closeAll();
-    s.build.buildError = 1;
+    b.channels.closeAll();
+    b.buildError = 1;
 }
 
 } // namespace
@@ -75,119 +68,119 @@ std::string NamePart(std::string_view field, std::string_view choice, std::strin
     return " name=" + Quoted(field) + mark + std::string(choice);
 }
 
-std::string ChoiceFontLine(const Session& s)
+std::string ChoiceFontLine(const write::BuildState& b)
 {
     // no blank before "color=": the format has none
-    return "<font face=" + Quoted(kFace) + "color=" + Quoted(s.build.values.TextColorHex) + " size=" + Quoted("3") +
-           ">";
+    return "<font face=" + Quoted(kFace) + "color=" + Quoted(b.values.TextColorHex) + " size=" + Quoted("3") + ">";
 }
 
-void WriteSurveyChoices(Session& s,
+void WriteSurveyChoices(write::BuildState& b,
+                        model::Mode mode,
                         std::string_view field,
                         std::string title,
-                        std::string_view inputType,
+                        const model::InputType& type,
                         std::string_view defaultValue,
                         std::string_view required)
 {
-    auto& out = Out(s);
-    const std::string t = model::ToUpper(inputType);
+    auto& out = Out(b);
     if (title.empty()) {
-        WriteItalicClose(s);
-        WriteShadeClose(s);
+        WriteItalicClose(b);
+        WriteShadeClose(b, mode);
         return;
     }
-    RecordChoices(s, field, title, t);
+    RecordChoices(b, field, title, type);
     out.line("");
-    WriteSurveyHeading(s, title, required, inputType);
-    if (t == "FOLLOWUP WITH MULTIPLE CHOICES" || model::StartsWithNoCase(t, "QUESTION->")) {
-        WriteFollowupChoices(s, field, inputType);
-        WriteShadeClose(s);
+    WriteSurveyHeading(b, mode, title, required, type);
+    if (type.id == model::InputTypeId::FollowupWithMultipleChoices) {
+        WriteFollowupChoices(b, mode, field, type);
+        WriteShadeClose(b, mode);
         return;
     }
-    if (IsDownload(t)) {
-        WriteDownloadList(s);
+    if (IsDownload(type)) {
+        WriteDownloadList(b, mode);
         return;
     }
-    out.line(ChoiceFontLine(s));
-    WriteItalicOpen(s);
-    out.line(ParagraphOpen(s.build.values.ALIGN));
-    for (const auto& choice : s.build.values.Choices.items) {
-        WriteIndent11(s);
+    out.line(ChoiceFontLine(b));
+    WriteItalicOpen(b);
+    out.line(ParagraphOpen(b.values.ALIGN));
+    for (const auto& choice : b.values.Choices.items) {
+        WriteIndent11(b);
         out.piece(RadioTag(choice));
-        const std::string suffix = t == "CONDITION WITH COMMENT" ? "&nbsp;&nbsp;&nbsp;" : "";
+        const std::string suffix = type.id == model::InputTypeId::ConditionWithComment ? "&nbsp;&nbsp;&nbsp;" : "";
         out.line(NamePart(field, choice, defaultValue) + suffix);
     }
-    WriteItalicClose(s);
+    WriteItalicClose(b);
     out.line("</font>");
-    WriteShadeClose(s);
+    WriteShadeClose(b, mode);
 }
 
-void WriteFormChoices(Session& s,
+void WriteFormChoices(write::BuildState& b,
+                      model::Mode mode,
                       std::string_view field,
                       std::string title,
-                      std::string_view inputType,
+                      const model::InputType& type,
                       std::string_view defaultValue,
                       std::string_view required)
 {
-    auto& out = Out(s);
-    const std::string t = model::ToUpper(inputType);
-    RecordChoices(s, field, title, t);
+    auto& out = Out(b);
+    RecordChoices(b, field, title, type);
     out.line("");
-    WriteFormHeading(s, title, required, inputType);
-    if (t == "FOLLOWUP WITH DROPDOWN" || t == "FOLLOWUP WITH MULTIPLE CHOICES" ||
-        model::StartsWithNoCase(t, "QUESTION->")) {
-        WriteFollowupChoices(s, field, inputType);
+    WriteFormHeading(b, title, required, type);
+    if (type.id == model::InputTypeId::FollowupWithDropdown ||
+        type.id == model::InputTypeId::FollowupWithMultipleChoices) {
+        WriteFollowupChoices(b, mode, field, type);
         return;
     }
-    if (IsDownload(t)) {
-        WriteDownloadList(s);
+    if (IsDownload(type)) {
+        WriteDownloadList(b, mode);
         return;
     }
-    out.line(ChoiceFontLine(s));
-    WriteItalicOpen(s);
-    const auto& choices = s.build.values.Choices.items;
+    out.line(ChoiceFontLine(b));
+    WriteItalicOpen(b);
+    const auto& choices = b.values.Choices.items;
     for (size_t i = 0; i < choices.size(); ++i) {
-        if (t == "CONDITION WITH COMMENT") {
+        if (type.id == model::InputTypeId::ConditionWithComment) {
             if (i == 0)
-                WriteIndent11(s);
+                WriteIndent11(b);
             else
-                WriteIndent5(s);
-        } else if (model::StartsWithNoCase(t, "QUESTION")) {
+                WriteIndent5(b);
+        } else if (IsQuestion(type)) {
             if (i == 0) {
-                WriteIndent11(s);
-            } else if (t == "QUESTION YESNO VERTICAL REQUIRED") {
+                WriteIndent11(b);
+            } else if (type.id == model::InputTypeId::QuestionYesNoVerticalRequired) {
                 out.line("<br>");
-                WriteIndent11(s);
+                WriteIndent11(b);
             } else {
-                WriteIndent5(s);
+                WriteIndent5(b);
             }
         }
         out.piece(RadioTag(choices[i]));
         out.line(NamePart(field, choices[i], defaultValue));
     }
-    WriteItalicClose(s);
+    WriteItalicClose(b);
     out.line("</font>");
 }
 
-void WriteSurveyCheckboxes(Session& s,
+void WriteSurveyCheckboxes(write::BuildState& b,
+                           model::Mode mode,
                            UiPort& ui,
                            std::string_view field,
                            std::string title,
-                           std::string_view inputType,
+                           const model::InputType& type,
                            std::string_view defaultValue,
                            std::string_view required)
 {
-    CheckNoValue(s, ui, title);
-    if (s.build.buildError == 1)
+    CheckNoValue(b, ui, title);
+    if (b.buildError == 1)
         return;
-    auto& out = Out(s);
-    RecordQuestion(s.build, field, title, inputType);
+    auto& out = Out(b);
+    RecordQuestion(b, field, title, type);
     out.line("");
-    WriteSurveyHeading(s, title, required, inputType);
-    out.line(ChoiceFontLine(s));
-    WriteItalicOpen(s);
-    out.line(ParagraphOpen(s.build.values.ALIGN));
-    const auto& boxes = s.build.values.CheckBoxes.items;
+    WriteSurveyHeading(b, mode, title, required, type);
+    out.line(ChoiceFontLine(b));
+    WriteItalicOpen(b);
+    out.line(ParagraphOpen(b.values.ALIGN));
+    const auto& boxes = b.values.CheckBoxes.items;
     for (size_t i = 0; i < boxes.size(); ++i) {
         const std::string& choice = boxes[i];
         const bool checked = IsDefaultChoice(defaultValue, choice);
@@ -197,70 +190,70 @@ void WriteSurveyCheckboxes(Session& s,
             // a checked first choice has no &nbsp; run behind it: the format has none
             out.piece(checked ? " checked > " + choice : " > " + choice + "&nbsp;&nbsp;&nbsp;");
         } else {
-            WriteIndent11(s);
+            WriteIndent11(b);
             out.piece(CheckboxPiece(field, choice));
             out.piece((checked ? " checked > " : " > ") + choice + "&nbsp;&nbsp;&nbsp; ");
         }
     }
-    WriteItalicClose(s);
+    WriteItalicClose(b);
     out.line("</font>");
-    WriteShadeClose(s);
+    WriteShadeClose(b, mode);
 }
 
-void WriteFormCheckboxes(Session& s,
+void WriteFormCheckboxes(write::BuildState& b,
                          UiPort& ui,
                          std::string_view field,
                          std::string title,
-                         std::string_view inputType,
+                         const model::InputType& type,
                          std::string_view defaultValue,
                          std::string_view required)
 {
-    CheckNoValue(s, ui, title);
-    if (s.build.buildError == 1)
+    CheckNoValue(b, ui, title);
+    if (b.buildError == 1)
         return;
-    auto& out = Out(s);
-    const std::string t = model::ToUpper(inputType);
+    auto& out = Out(b);
     if (!title.empty()) {
-        RecordQuestion(s.build, field, title, inputType);
+        RecordQuestion(b, field, title, type);
         out.line("");
-        WriteFormHeading(s, title, required, inputType);
-        out.line("<font color=" + Quoted(s.build.values.TextColorHex) + " face=" + Quoted(kFace) +
-                 " size=" + Quoted("3") + ">");
-        WriteItalicOpen(s);
-        const auto& boxes = s.build.values.CheckBoxes.items;
+        WriteFormHeading(b, title, required, type);
+        out.line("<font color=" + Quoted(b.values.TextColorHex) + " face=" + Quoted(kFace) + " size=" + Quoted("3") +
+                 ">");
+        WriteItalicOpen(b);
+        const auto& boxes = b.values.CheckBoxes.items;
         for (size_t i = 0; i < boxes.size(); ++i) {
             if (i == 0) {
-                WriteIndent11(s);
-            } else if (t == "CHECKBOX VERTICAL") {
+                WriteIndent11(b);
+            } else if (type.id == model::InputTypeId::CheckboxVertical) {
                 out.line("<br>");
-                WriteIndent11(s);
+                WriteIndent11(b);
             } else {
-                WriteIndent5(s);
+                WriteIndent5(b);
             }
             out.piece(CheckboxPiece(field, boxes[i]));
             out.line((IsDefaultChoice(defaultValue, boxes[i]) ? " checked > " : " > ") + boxes[i]);
         }
     }
-    WriteItalicClose(s);
+    WriteItalicClose(b);
     out.line("</font>");
     out.line("<br>");
 }
 
-void WriteSurveyDropdown(Session& s,
+void WriteSurveyDropdown(write::BuildState& b,
+                         model::Mode mode,
                          std::string_view field,
                          std::string title,
                          std::string_view defaultValue,
-                         std::string_view inputType,
+                         const model::InputType& type,
                          std::string_view required)
 {
-    auto& out = Out(s);
+    auto& out = Out(b);
     if (!title.empty()) {
-        RecordQuestion(s.build, field, title, inputType);
+        RecordQuestion(b, field, title, type);
         out.line("");
-        WriteSurveyHeading(s, title, required, inputType);
+        WriteSurveyHeading(b, mode, title, required, type);
         out.line("");
-        out.line(ParagraphOpen(s.build.values.ALIGN));
-        const auto& choices = s.build.values.Choices.items;
+        out.line(ParagraphOpen(b.values.ALIGN));
+        const auto& choices = b.values.Choices.items;
         if (!choices.empty()) {
             out.line("<select size=" + Quoted("1"));
             out.line("  name=" + Quoted(field) + " style=" + Quoted("font-family: arial") + " > ");
@@ -274,25 +267,25 @@ void WriteSurveyDropdown(Session& s,
         out.line("<option selected>not selected</option>");
         out.line("</select>");
     }
-    WriteStyleClose(s);
-    WriteShadeClose(s);
+    WriteStyleClose(b);
+    WriteShadeClose(b, mode);
 }
 
-void WriteFormDropdown(Session& s,
+void WriteFormDropdown(write::BuildState& b,
                        std::string_view field,
                        std::string title,
                        std::string_view defaultValue,
-                       std::string_view inputType,
+                       const model::InputType& type,
                        std::string_view required)
 {
-    auto& out = Out(s);
+    auto& out = Out(b);
     if (!title.empty()) {
-        RecordQuestion(s.build, field, title, inputType);
+        RecordQuestion(b, field, title, type);
         out.line("");
-        WriteFormHeading(s, title, required, inputType);
-        WriteIndent11(s);
+        WriteFormHeading(b, title, required, type);
+        WriteIndent11(b);
         out.line("<select size=" + Quoted("1") + "  name=" + Quoted(field) + " > ");
-        const auto& choices = s.build.values.Choices.items;
+        const auto& choices = b.values.Choices.items;
         // the default only removes its choice; "selected" goes to the list's first choice
         for (size_t i = 0; i < choices.size(); ++i)
             if (choices[i] != defaultValue)
@@ -301,7 +294,7 @@ void WriteFormDropdown(Session& s,
         out.line("</select><br>");
         out.line("<br>");
     }
-    WriteStyleClose(s);
+    WriteStyleClose(b);
 }
 
 } // namespace tq::html

@@ -6,7 +6,6 @@
 #include "html/html_text.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
-#include "session.h"
 
 #include <fstream>
 #include <sstream>
@@ -15,99 +14,99 @@ namespace tq::html {
 
 namespace {
 
-write::LineWriter& Out(Session& s)
+write::LineWriter& Out(write::BuildState& b)
 {
-    return s.build.channels[1];
+    return b.channels[1];
 }
 
 } // namespace
 
-void WriteConditionChoices(Session& s,
+void WriteConditionChoices(write::BuildState& b,
+                           model::Mode mode,
                            std::string_view field,
                            std::string title,
-                           std::string_view inputType,
+                           const model::InputType& type,
                            std::string_view /*defaultValue*/,
                            std::string_view required)
 {
     if (!title.empty()) {
         std::string caption = title;
-        NumberForMessage(s.build, caption, inputType);
-        AppendMessageLine(s.build, caption);
-        AppendMessageLine(s.build, std::string(field));
-        NumberForPage(s.build, title, inputType);
-        WriteSurveyHeading(s, title, required, inputType);
-        WriteFollowupChoices(s, field, inputType);
+        NumberForMessage(b, caption, type);
+        AppendMessageLine(b, caption);
+        AppendMessageLine(b, std::string(field));
+        NumberForPage(b, title, type);
+        WriteSurveyHeading(b, mode, title, required, type);
+        WriteFollowupChoices(b, mode, field, type);
     }
-    WriteShadeClose(s);
+    WriteShadeClose(b, mode);
 }
 
-void WriteConditionDropdown(Session& s,
+void WriteConditionDropdown(write::BuildState& b,
+                            model::Mode mode,
                             std::string_view field,
                             std::string title,
-                            std::string_view inputType,
+                            const model::InputType& type,
                             std::string_view defaultValue,
                             std::string_view required)
 {
-    auto& out = Out(s);
+    auto& out = Out(b);
     if (!title.empty()) {
-        RecordQuestion(s.build, field, title, inputType);
-        WriteSurveyHeading(s, title, required, inputType);
-        out.line(ChoiceFontLine(s));
-        out.line("<p align=" + Quoted(s.build.values.ALIGN) + ">");
-        for (const auto& choice : s.build.values.Choices.items) {
-            WriteIndent11(s);
+        RecordQuestion(b, field, title, type);
+        WriteSurveyHeading(b, mode, title, required, type);
+        out.line(ChoiceFontLine(b));
+        out.line("<p align=" + Quoted(b.values.ALIGN) + ">");
+        for (const auto& choice : b.values.Choices.items) {
+            WriteIndent11(b);
             out.piece(RadioTag(choice));
             out.line(NamePart(field, choice, defaultValue) + "&nbsp;&nbsp;&nbsp;");
             // the default closes style and font at once, and the list goes on: the format does so
             if (IsDefaultChoice(defaultValue, choice)) {
-                WriteStyleClose(s);
+                WriteStyleClose(b);
                 out.line("</font>");
             }
         }
-        WriteStyleClose(s);
+        WriteStyleClose(b);
         out.line("</font>");
-        if (model::StartsWithNoCase(inputType, "CONDITION"))
-            WriteStyleClose(s);
+        if (IsCondition(type))
+            WriteStyleClose(b);
     }
-    WriteShadeClose(s);
+    WriteShadeClose(b, mode);
 }
 
-void WriteFollowupChoices(Session& s, std::string_view field, std::string_view inputType)
+void WriteFollowupChoices(write::BuildState& b, model::Mode mode, std::string_view field, const model::InputType& type)
 {
-    auto& out = Out(s);
-    WriteItalicOpen(s);
-    out.line(ChoiceFontLine(s));
-    WriteIndent11(s);
-    const auto& choices = s.build.values.Choices.items;
+    auto& out = Out(b);
+    WriteItalicOpen(b);
+    out.line(ChoiceFontLine(b));
+    WriteIndent11(b);
+    const auto& choices = b.values.Choices.items;
     for (size_t i = 0; i < choices.size(); ++i) {
         // no blank before "name=", and no choice is checked here
         const std::string tag = "<input type=" + Quoted("radio") + " value=" + Quoted(choices[i]) +
                                 "name=" + Quoted(field) + ">" + choices[i];
         if (i + 1 < choices.size()) {
             out.piece(tag);
-            WriteIndent11(s); // its line end closes the choice's line
+            WriteIndent11(b); // its line end closes the choice's line
         } else {
             out.line(tag + "<br></font>");
         }
     }
-    WriteItalicClose(s);
+    WriteItalicClose(b);
     out.line("</font>");
-    if (!IsSurvey(s)) {
-        const std::string t = model::ToUpper(inputType);
-        if (model::StartsWithNoCase(t, "QUESTION") || t == "FOLLOWUP WITH DROPDOWN" ||
-            t == "FOLLOWUP WITH MULTIPLE CHOICES")
+    if (mode != model::Mode::Survey) {
+        if (IsQuestion(type) || type.id == model::InputTypeId::FollowupWithDropdown ||
+            type.id == model::InputTypeId::FollowupWithMultipleChoices)
             out.line("<br>");
     }
 }
 
-void WriteDownloadList(Session& s)
+void WriteDownloadList(write::BuildState& b, model::Mode mode)
 {
-    auto& out = Out(s);
-    const auto& b = s.build;
+    auto& out = Out(b);
     const auto& v = b.values;
     out.line("<p align=" + Quoted(v.ALIGN) + "><font face=" + Quoted(kFace) + "color=" + Quoted(v.TextColorHex) +
              " size=" + Quoted("3") + ">");
-    WriteItalicOpen(s);
+    WriteItalicOpen(b);
     const bool labels = model::EqualsNoCase(v.ShowFileLabels, "YES");
     const bool left = model::EqualsNoCase(v.ALIGN, "LEFT");
     for (int i = 1; i <= b.downloadFileCount && i <= write::kDownloadFileSlots; ++i) {
@@ -127,9 +126,9 @@ void WriteDownloadList(Session& s)
             out.line("");
         out.line(b.downloadFiles[static_cast<size_t>(i)] + " <br>");
     }
-    WriteItalicClose(s);
+    WriteItalicClose(b);
     out.line("</font>");
-    WriteShadeClose(s);
+    WriteShadeClose(b, mode);
 }
 
 } // namespace tq::html

@@ -4,29 +4,28 @@
 #include "html/html_text.h"
 #include "model/input_types.h"
 #include "model/text_ops.h"
-#include "session.h"
 
 namespace tq::html {
 
 namespace {
 
-write::LineWriter& Out(Session& s)
+write::LineWriter& Out(write::BuildState& b)
 {
-    return s.build.channels[1];
+    return b.channels[1];
 }
 
 // The pair rule: a condition and its followup share one number, "4a" and "4b".
-std::string PairNumber(int& counter, std::string_view inputType)
+std::string PairNumber(int& counter, const model::InputType& type)
 {
-    const std::string t = model::ToUpper(inputType);
-    if (t == "DOWNLOAD FILES WITH PASSWORD" || t == "CONDITION WITH COMMENT" ||
-        t == "CONDITION WITH MULTIPLE CHOICES" || t == "CONDITION WITH DROPDOWN") {
+    switch (type.numbering) {
+    case model::Numbering::PairFirst:
         ++counter;
         return std::to_string(counter) + "a";
-    }
-    if (t == "FOLLOWUP FILES WITH PASSWORD" || t == "FOLLOWUP WITH COMMENT" || t == "FOLLOWUP WITH MULTIPLE CHOICES" ||
-        t == "FOLLOWUP WITH DROPDOWN")
+    case model::Numbering::PairSecond:
         return std::to_string(counter) + "b";
+    case model::Numbering::Own:
+        break;
+    }
     ++counter;
     return std::to_string(counter);
 }
@@ -51,53 +50,53 @@ std::string FontFaceSize(const write::WorkingValues& v)
     return "<font face=" + Quoted(kFace) + " size=" + Quoted(v.TitleSize) + ">";
 }
 
-void WriteFormA(Session& s)
+void WriteFormA(write::BuildState& b)
 {
-    auto& out = Out(s);
-    const auto& v = s.build.values;
-    const auto& lines = s.build.TitleLines;
+    auto& out = Out(b);
+    const auto& v = b.values;
+    const auto& lines = b.TitleLines;
     out.line("<p align=" + Quoted(v.ALIGN) + ">" + FontFaceSize(v));
     for (int i = 1; i <= lines.count(); ++i)
         out.line(i < lines.count() ? lines.at(i) + "<br>" : lines.at(i));
-    WriteStyleClose(s);
+    WriteStyleClose(b);
     out.line("</font> </p>");
 }
 
-void WriteFormB(Session& s)
+void WriteFormB(write::BuildState& b)
 {
-    auto& out = Out(s);
-    const auto& v = s.build.values;
-    const auto& lines = s.build.TitleLines;
+    auto& out = Out(b);
+    const auto& v = b.values;
+    const auto& lines = b.TitleLines;
     // no blank before "color=": the format has none
     out.line(FontFaceSize(v) + "<p align=" + Quoted(v.ALIGN) + "color=" + Quoted(v.TextColorHex) + ">");
     out.line(ParagraphOpen(v.ALIGN));
     for (int i = 1; i <= lines.count(); ++i) {
         out.line(FontFaceSize(v) + ParagraphOpen(v.ALIGN) + lines.at(i));
-        WriteStyleClose(s);
+        WriteStyleClose(b);
         out.line("</font> </p>");
         out.line(ParagraphOpen(v.ALIGN));
     }
 }
 
-void WriteFormC(Session& s)
+void WriteFormC(write::BuildState& b)
 {
-    auto& out = Out(s);
-    const auto& v = s.build.values;
-    const auto& lines = s.build.TitleLines;
+    auto& out = Out(b);
+    const auto& v = b.values;
+    const auto& lines = b.TitleLines;
     for (int i = 1; i <= lines.count(); ++i) {
         out.line(FontFaceSize(v) + ParagraphOpen(v.ALIGN) + lines.at(i));
-        WriteStyleClose(s);
+        WriteStyleClose(b);
         out.line("</font> </p>");
     }
     if (lines.count() > 0)
         out.line(ParagraphOpen(v.ALIGN) + FontFaceSize(v));
 }
 
-void WriteFormD(Session& s)
+void WriteFormD(write::BuildState& b)
 {
-    auto& out = Out(s);
-    const auto& v = s.build.values;
-    const auto& lines = s.build.TitleLines;
+    auto& out = Out(b);
+    const auto& v = b.values;
+    const auto& lines = b.TitleLines;
     out.line(ParagraphOpen(v.ALIGN) + FontFaceSize(v) + "</p>");
     out.line("");
     if (lines.count() == 0)
@@ -107,63 +106,111 @@ void WriteFormD(Session& s)
     for (int i = 1; i < lines.count(); ++i) {
         out.line(lines.at(i) + " </p>");
         out.line(ParagraphOpen(v.ALIGN) + lines.at(i));
-        WriteStyleClose(s);
+        WriteStyleClose(b);
         out.line("</font> </p>");
     }
     out.line(ParagraphOpen(v.ALIGN) + lines.at(lines.count()));
-    WriteStyleClose(s);
+    WriteStyleClose(b);
     out.line("</font> </p>");
 }
 
-bool IsFormA(const std::string& t)
+// The heading form A: every question type but the dropdown Followup, the
+// check boxes and the ones that write form D.
+bool IsFormA(const model::InputType& type)
 {
-    static const char* const kTypes[] = {"DROPDOWN REQUIRED",
-                                         "DROPDOWN NOT REQUIRED",
-                                         "QUESTION MULTIPLE CHOICES COMMENTS",
-                                         "QUESTION MULTIPLE CHOICES",
-                                         "QUESTION",
-                                         "FOLLOWUP WITH COMMENT",
-                                         "USER NAME",
-                                         "DOWNLOAD FILES WITH PASSWORD",
-                                         "FOLLOWUP FILES WITH PASSWORD",
-                                         "PASSWORD",
-                                         "SECURITY CODE",
-                                         "NAME",
-                                         "SUBJECT",
-                                         "PHONE NUMBER",
-                                         "CELL PHONE NUMBER",
-                                         "FOLLOWUP WITH MULTIPLE CHOICES"};
-    for (const char* k : kTypes)
-        if (t == k)
-            return true;
-    return model::StartsWithNoCase(t, "COMMENTS") || model::StartsWithNoCase(t, "CONDITION");
+    using I = model::InputTypeId;
+    switch (type.id) {
+    case I::DropdownRequired:
+    case I::DropdownNotRequired:
+    case I::QuestionMultipleChoicesComments:
+    case I::QuestionMultipleChoices:
+    case I::FollowupWithComment:
+    case I::UserName:
+    case I::DownloadFilesWithPassword:
+    case I::FollowupFilesWithPassword:
+    case I::Password:
+    case I::SecurityCode:
+    case I::Name:
+    case I::Subject:
+    case I::PhoneNumber:
+    case I::CellPhoneNumber:
+    case I::FollowupWithMultipleChoices:
+        return true;
+    default:
+        return IsComments(type) || IsCondition(type);
+    }
 }
 
-void WriteSurveyLines(Session& s, std::string_view required, const std::string& t)
+void WriteSurveyLines(write::BuildState& b, std::string_view required, const model::InputType& type)
 {
-    if (model::StartsWithNoCase(t, "TITLE")) {
-        WriteFormA(s);
+    if (IsTitle(type)) {
+        WriteFormA(b);
         return;
     }
-    auto& lines = s.build.TitleLines;
+    auto& lines = b.TitleLines;
     if (model::EqualsNoCase(required, "YES") && lines.count() > 0)
         lines.items[0] = "* " + lines.items[0];
-    if (IsFormA(t))
-        WriteFormA(s);
-    else if (t == "FOLLOWUP WITH DROPDOWN")
-        WriteFormB(s);
-    else if (model::StartsWithNoCase(t, "CHECKBOX"))
-        WriteFormC(s);
+    if (IsFormA(type))
+        WriteFormA(b);
+    else if (type.id == model::InputTypeId::FollowupWithDropdown)
+        WriteFormB(b);
+    else if (IsCheckbox(type))
+        WriteFormC(b);
     else
-        WriteFormD(s);
+        WriteFormD(b);
 }
 
 } // namespace
 
-std::string ForcedRequired(std::string_view required, std::string_view inputType)
+bool IsTitle(const model::InputType& type)
 {
-    const std::string t = model::ToUpper(inputType);
-    if (t == "DOWNLOAD FILES WITH PASSWORD" || t == "FOLLOWUP FILES WITH PASSWORD")
+    using I = model::InputTypeId;
+    return type.id == I::TitleShade || type.id == I::Title1SingleLine || type.id == I::Title2DoubleLine ||
+           type.id == I::TitleHeader;
+}
+
+bool IsCondition(const model::InputType& type)
+{
+    using I = model::InputTypeId;
+    return type.id == I::ConditionWithComment || type.id == I::ConditionWithDropdown ||
+           type.id == I::ConditionWithMultipleChoices;
+}
+
+bool IsFollowup(const model::InputType& type)
+{
+    using I = model::InputTypeId;
+    return type.id == I::FollowupWithComment || type.id == I::FollowupWithDropdown ||
+           type.id == I::FollowupWithMultipleChoices || type.id == I::FollowupFilesWithPassword;
+}
+
+bool IsQuestion(const model::InputType& type)
+{
+    using I = model::InputTypeId;
+    return type.id == I::QuestionMultipleChoicesComments || type.id == I::QuestionMultipleChoices ||
+           type.id == I::QuestionYesNoRequired || type.id == I::QuestionYesNoNotRequired ||
+           type.id == I::QuestionYesNoVerticalRequired;
+}
+
+bool IsCheckbox(const model::InputType& type)
+{
+    return type.id == model::InputTypeId::CheckboxHorizontal || type.id == model::InputTypeId::CheckboxVertical;
+}
+
+bool IsComments(const model::InputType& type)
+{
+    using I = model::InputTypeId;
+    return type.id == I::CommentsRequired || type.id == I::CommentsNotRequired || type.id == I::CommentsWithText;
+}
+
+bool IsDownload(const model::InputType& type)
+{
+    return type.id == model::InputTypeId::DownloadFiles || type.id == model::InputTypeId::DownloadFilesWithPassword;
+}
+
+std::string ForcedRequired(std::string_view required, const model::InputType& type)
+{
+    if (type.id == model::InputTypeId::DownloadFilesWithPassword ||
+        type.id == model::InputTypeId::FollowupFilesWithPassword)
         return "yes";
     return std::string(required);
 }
@@ -180,11 +227,6 @@ std::string PreviewFieldName(std::string_view inputType)
     return model::ToLower(inputType) + "1";
 }
 
-bool IsSurvey(const Session& s)
-{
-    return model::ModeOf(s.store.state.ProjectMode) == model::Mode::Survey;
-}
-
 void AppendMessageLine(write::BuildState& b, std::string text)
 {
     if (b.messageLineCount >= write::kMessageLineSlots)
@@ -194,27 +236,27 @@ void AppendMessageLine(write::BuildState& b, std::string text)
     b.messageLines[static_cast<size_t>(b.messageLineCount)] = std::move(text);
 }
 
-void NumberForMessage(write::BuildState& b, std::string& caption, std::string_view inputType)
+void NumberForMessage(write::BuildState& b, std::string& caption, const model::InputType& type)
 {
-    caption = PairNumber(b.messageNumber, inputType) + ". " + caption;
+    caption = PairNumber(b.messageNumber, type) + ". " + caption;
 }
 
-void NumberForPage(write::BuildState& b, std::string& title, std::string_view inputType)
+void NumberForPage(write::BuildState& b, std::string& title, const model::InputType& type)
 {
     if (!model::EqualsNoCase(b.setupValues.NumberEachQuestion, "YES"))
         return;
-    const std::string n = PairNumber(b.questionNumber, inputType);
+    const std::string n = PairNumber(b.questionNumber, type);
     const std::string prefix = model::ContainsNoCase(n, "B") ? "&nbsp;&nbsp;&nbsp;" + n + ". &nbsp;" : n + ". &nbsp;";
     title = prefix + title;
 }
 
-void RecordQuestion(write::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType)
+void RecordQuestion(write::BuildState& b, std::string_view fieldName, std::string& title, const model::InputType& type)
 {
     std::string caption = title;
-    NumberForMessage(b, caption, inputType);
+    NumberForMessage(b, caption, type);
     AppendMessageLine(b, caption);
     AppendMessageLine(b, std::string(fieldName));
-    NumberForPage(b, title, inputType);
+    NumberForPage(b, title, type);
 }
 
 void SplitTitle(write::BuildState& b, std::string_view title)
@@ -241,85 +283,91 @@ void SplitTitle(write::BuildState& b, std::string_view title)
         line = RewriteBlanks(line);
 }
 
-void WriteFormHeading(Session& s, std::string_view title, std::string_view required, std::string_view inputType)
+void WriteFormHeading(write::BuildState& b,
+                      std::string_view title,
+                      std::string_view required,
+                      const model::InputType& type)
 {
-    auto& out = Out(s);
-    const std::string req = ForcedRequired(required, inputType);
-    WriteTextOpen(s);
+    auto& out = Out(b);
+    const std::string req = ForcedRequired(required, type);
+    WriteTextOpen(b);
     if (!title.empty())
-        SplitTitle(s.build, title);
-    out.line(ParagraphOpen(s.build.values.ALIGN));
+        SplitTitle(b, title);
+    out.line(ParagraphOpen(b.values.ALIGN));
     if (model::EqualsNoCase(req, "YES"))
         out.piece("* ");
-    const auto& lines = s.build.TitleLines;
+    const auto& lines = b.TitleLines;
     for (int i = 1; i <= lines.count(); ++i) {
         const std::string& l = lines.at(i);
         for (size_t k = 0; k < l.size() && l[k] == ' '; ++k)
             out.piece("&nbsp;");
         out.line(i < lines.count() ? l + " <br>" : l);
     }
-    WriteStyleClose(s);
+    WriteStyleClose(b);
     out.line("<br>");
 }
 
-void WriteSurveyHeading(Session& s, std::string_view title, std::string_view required, std::string_view inputType)
+void WriteSurveyHeading(write::BuildState& b,
+                        model::Mode mode,
+                        std::string_view title,
+                        std::string_view required,
+                        const model::InputType& type)
 {
-    auto& out = Out(s);
-    const std::string req = ForcedRequired(required, inputType);
-    const std::string t = model::ToUpper(inputType);
-    WriteTextOpen(s);
+    auto& out = Out(b);
+    const std::string req = ForcedRequired(required, type);
+    WriteTextOpen(b);
     if (!title.empty())
-        SplitTitle(s.build, title);
-    const auto& intro = s.build.values.IntroLines;
+        SplitTitle(b, title);
+    const auto& intro = b.values.IntroLines;
     if (intro.count() > 0) {
-        out.line(ParagraphOpen(s.build.values.ALIGN));
+        out.line(ParagraphOpen(b.values.ALIGN));
         for (int i = 1; i <= intro.count(); ++i)
             out.line(i == 1 ? intro.at(i) : "<br>" + intro.at(i));
         out.line("</font></p>");
     }
     out.line("");
     if (intro.count() == 0) {
-        WriteSurveyLines(s, req, t);
-        if (!model::StartsWithNoCase(t, "TITLE"))
-            WriteShadeOpen(s);
+        WriteSurveyLines(b, req, type);
+        if (!IsTitle(type))
+            WriteShadeOpen(b, mode);
     }
 }
 
-void WriteTextOpen(Session& s)
+void WriteTextOpen(write::BuildState& b)
 {
-    auto& out = Out(s);
-    const auto& v = s.build.values;
+    auto& out = Out(b);
+    const auto& v = b.values;
     out.line("<font color=" + Quoted(v.TextColorHex) + " face=" + Quoted(kFace) + " size=" + Quoted(v.TitleSize) + ">");
-    WriteItalicOpen(s);
+    WriteItalicOpen(b);
     if (IsOn(v.Bold))
         out.line("<b>");
 }
 
-void WriteItalicOpen(Session& s)
+void WriteItalicOpen(write::BuildState& b)
 {
-    if (IsOn(s.build.values.Italics))
-        Out(s).line("<i>");
+    if (IsOn(b.values.Italics))
+        Out(b).line("<i>");
 }
 
-void WriteItalicClose(Session& s)
+void WriteItalicClose(write::BuildState& b)
 {
-    if (IsOn(s.build.values.Italics))
-        Out(s).line("</i>");
+    if (IsOn(b.values.Italics))
+        Out(b).line("</i>");
 }
 
-void WriteStyleClose(Session& s)
+void WriteStyleClose(write::BuildState& b)
 {
-    WriteItalicClose(s);
-    if (IsOn(s.build.values.Bold))
-        Out(s).line("</b>");
+    WriteItalicClose(b);
+    if (IsOn(b.values.Bold))
+        Out(b).line("</b>");
 }
 
-void WriteShadeOpen(Session& s)
+void WriteShadeOpen(write::BuildState& b, model::Mode mode)
 {
-    if (!IsSurvey(s))
+    if (mode != model::Mode::Survey)
         return;
-    auto& out = Out(s);
-    const auto& v = s.build.values;
+    auto& out = Out(b);
+    const auto& v = b.values;
     // ShadeWidth holds the reader's copy: a width without "%" has been through the colour rule
     out.line("<div align=" + Quoted(v.ALIGN) + ">");
     out.line("<table border=" + Quoted("0") + " width=" + Quoted(v.ShadeWidth) + " bgcolor=" + Quoted(v.ShadeColorHex) +
@@ -327,23 +375,23 @@ void WriteShadeOpen(Session& s)
     out.line("<tr><td width=" + Quoted(v.ShadeWidth) + " align=" + Quoted("center") + ">");
 }
 
-void WriteShadeClose(Session& s)
+void WriteShadeClose(write::BuildState& b, model::Mode mode)
 {
-    if (!IsSurvey(s))
+    if (mode != model::Mode::Survey)
         return;
     // closes a center tag that was never opened here: the format does so
-    Out(s).line("</td></tr></table></center></div>");
-    Out(s).line("<br>");
+    Out(b).line("</td></tr></table></center></div>");
+    Out(b).line("<br>");
 }
 
-void WriteIndent11(Session& s)
+void WriteIndent11(write::BuildState& b)
 {
-    Out(s).line(Repeat("&nbsp;", 11));
+    Out(b).line(Repeat("&nbsp;", 11));
 }
 
-void WriteIndent5(Session& s)
+void WriteIndent5(write::BuildState& b)
 {
-    Out(s).line(Repeat("&nbsp;", 5));
+    Out(b).line(Repeat("&nbsp;", 5));
 }
 
 } // namespace tq::html

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/input_types.h"
 #include "write/build_state.h"
 
 #include <string>
 #include <string_view>
-
-namespace tq {
-struct Session;
-}
 
 namespace tq::html {
 
@@ -24,23 +21,40 @@ std::string FieldName(std::string_view inputType, int position);
 std::string PreviewFieldName(std::string_view inputType);
 
 /// True when the session's ProjectMode is SURVEY (compared upper-cased).
-bool IsSurvey(const Session& s);
+bool IsSurvey(const write::BuildState& b);
+
+// The families of Input Types the page writers tell apart, by the rows' ids.
+
+/// TITLE SHADE and the three TITLE types.
+bool IsTitle(const model::InputType& type);
+/// The three CONDITION types.
+bool IsCondition(const model::InputType& type);
+/// The four FOLLOWUP types.
+bool IsFollowup(const model::InputType& type);
+/// The five QUESTION types.
+bool IsQuestion(const model::InputType& type);
+/// CHECKBOX HORIZONTAL and VERTICAL.
+bool IsCheckbox(const model::InputType& type);
+/// The three COMMENTS types.
+bool IsComments(const model::InputType& type);
+/// DOWNLOAD FILES and DOWNLOAD FILES WITH PASSWORD.
+bool IsDownload(const model::InputType& type);
 
 /// Appends one element to messageLines; past 500 throws model::InternalError.
 void AppendMessageLine(write::BuildState& b, std::string text);
 
 /// Prefixes the e-mail caption with its number ("4. ", "4a. ", "4b. ") and
 /// advances messageNumber by the pair rule.
-void NumberForMessage(write::BuildState& b, std::string& caption, std::string_view inputType);
+void NumberForMessage(write::BuildState& b, std::string& caption, const model::InputType& type);
 
 /// With [NUMBER EACH QUESTION=YES, prefixes the page title with its number
 /// ("4. &nbsp;"; a "b" number is indented by three &nbsp;) and advances
 /// questionNumber by the pair rule. Otherwise leaves everything alone.
-void NumberForPage(write::BuildState& b, std::string& title, std::string_view inputType);
+void NumberForPage(write::BuildState& b, std::string& title, const model::InputType& type);
 
 /// The prologue of a question: the numbered caption and the field name go to
 /// messageLines, then the page title gets its number.
-void RecordQuestion(write::BuildState& b, std::string_view fieldName, std::string& title, std::string_view inputType);
+void RecordQuestion(write::BuildState& b, std::string_view fieldName, std::string& title, const model::InputType& type);
 
 /// Cuts the title at each "\n" (any case) into TitleLines, rewriting runs of
 /// blanks as &nbsp;. An empty title leaves TitleLines as they stand.
@@ -50,29 +64,36 @@ void SplitTitle(write::BuildState& b, std::string_view title);
 /// The heading of a FORM question on channel 1. The font tag stays open.
 /// The Required value a heading uses: the two password downloads are always
 /// required, whatever their attribute says.
-std::string ForcedRequired(std::string_view required, std::string_view inputType);
+std::string ForcedRequired(std::string_view required, const model::InputType& type);
 
-void WriteFormHeading(Session& s, std::string_view title, std::string_view required, std::string_view inputType);
+void WriteFormHeading(write::BuildState& b,
+                      std::string_view title,
+                      std::string_view required,
+                      const model::InputType& type);
 
 /// The heading of a SURVEY question on channel 1 (forms A to D by type), then
 /// the shade table unless the type is a TITLE.
-void WriteSurveyHeading(Session& s, std::string_view title, std::string_view required, std::string_view inputType);
+void WriteSurveyHeading(write::BuildState& b,
+                        model::Mode mode,
+                        std::string_view title,
+                        std::string_view required,
+                        const model::InputType& type);
 
 /// The font tag with colour, face and size, then <i> and <b> as set.
-void WriteTextOpen(Session& s);
+void WriteTextOpen(write::BuildState& b);
 /// "<i>" when italics are on.
-void WriteItalicOpen(Session& s);
+void WriteItalicOpen(write::BuildState& b);
 /// "</i>" when italics are on.
-void WriteItalicClose(Session& s);
+void WriteItalicClose(write::BuildState& b);
 /// "</i>" then "</b>", each when set.
-void WriteStyleClose(Session& s);
+void WriteStyleClose(write::BuildState& b);
 /// The shade table of a SURVEY question; nothing in FORM.
-void WriteShadeOpen(Session& s);
+void WriteShadeOpen(write::BuildState& b, model::Mode mode);
 /// Closes the shade table in SURVEY; nothing in FORM.
-void WriteShadeClose(Session& s);
+void WriteShadeClose(write::BuildState& b, model::Mode mode);
 /// Eleven &nbsp; on a line.
-void WriteIndent11(Session& s);
+void WriteIndent11(write::BuildState& b);
 /// Five &nbsp; on a line.
-void WriteIndent5(Session& s);
+void WriteIndent5(write::BuildState& b);
 
 } // namespace tq::html

@@ -18,9 +18,8 @@ bool HasBackgroundImage(const write::SetupValues& setup)
 
 } // namespace
 
-void WritePageHead(Session& s)
+void WritePageHead(write::BuildState& b, model::Mode mode)
 {
-    auto& b = s.build;
     auto& out = b.channels[1];
     const auto& setup = b.setupValues;
     if (b.wholePage) {
@@ -28,19 +27,18 @@ void WritePageHead(Session& s)
         out.line("<body>");
         out.line("");
         // the second body tag after the first belongs to the format
-        if (IsSurvey(s))
+        if (mode == model::Mode::Survey)
             out.line("<body bgcolor=" + Quoted(setup.BackgroundColorHex) + ">");
     }
-    if (setup.FrameOff == 0 && !IsSurvey(s))
-        WriteFrameOpen(s);
+    if (setup.FrameOff == 0 && mode != model::Mode::Survey)
+        WriteFrameOpen(b);
     if (HasBackgroundImage(setup))
         out.line("<body background=" + Quoted(setup.BackgroundImagePath) + ">");
     out.line("<form action=" + Quoted(b.formAction) + " method=" + Quoted("post") + ">");
 }
 
-void WriteFrameOpen(Session& s)
+void WriteFrameOpen(write::BuildState& b)
 {
-    auto& b = s.build;
     const auto& setup = b.setupValues;
     if (setup.FrameOff == 1 || b.FrameOpened)
         return;
@@ -72,9 +70,8 @@ void WriteFrameOpen(Session& s)
     out.line("");
 }
 
-void WriteFrameClose(Session& s)
+void WriteFrameClose(write::BuildState& b)
 {
-    auto& b = s.build;
     if (b.setupValues.FrameOff == 1)
         return;
     // one frame level is closed whatever TOTAL FRAMES is; the others stay open
@@ -93,9 +90,8 @@ void WriteFrameClose(Session& s)
     out.line("");
 }
 
-void WriteBlockOpen(Session& s)
+void WriteBlockOpen(write::BuildState& b)
 {
-    auto& b = s.build;
     auto& out = b.channels[1];
     const std::string& align = b.values.ALIGN;
     out.line("<div align=" + Quoted(align) + ">");
@@ -105,9 +101,8 @@ void WriteBlockOpen(Session& s)
     out.line("      <td width=" + Quoted("100%") + " align=" + Quoted(align) + ">");
 }
 
-void WriteBlockClose(Session& s)
+void WriteBlockClose(write::BuildState& b)
 {
-    auto& b = s.build;
     auto& out = b.channels[1];
     out.line("      </td>");
     out.line("    </tr>");
@@ -116,9 +111,8 @@ void WriteBlockClose(Session& s)
     out.line("<br>");
 }
 
-void WritePageClose(Session& s, std::string_view submitName)
+void WritePageClose(write::BuildState& b, model::Mode mode, std::string_view submitName)
 {
-    auto& b = s.build;
     auto& out = b.channels[1];
     const auto& setup = b.setupValues;
     const auto& v = b.values;
@@ -132,13 +126,13 @@ void WritePageClose(Session& s, std::string_view submitName)
         out.line("<p align=" + Quoted(v.ALIGN) + "><a href=" + Quoted(v.LinkTo) + "><font color=" +
                  Quoted(v.DefaultColorHex) + "><input type=" + Quoted("button") + " value=" + Quoted(v.ButtonName) +
                  " name=" + Quoted("B4") + " style=" + Quoted("font-family: Arial; color: " + v.DefaultColorHex) + ">");
-        WriteStyleClose(s);
+        WriteStyleClose(b);
         out.line("</font></a></p>");
         out.line("");
     }
     out.line("</form>");
-    if (!IsSurvey(s) && setup.FrameOff == 0)
-        WriteFrameClose(s);
+    if (mode != model::Mode::Survey && setup.FrameOff == 0)
+        WriteFrameClose(b);
     if (b.wholePage) {
         out.line("</body>");
         out.line("</html>");

@@ -4,7 +4,6 @@
 #include "html/headings.h"
 #include "html/html_text.h"
 #include "model/text_ops.h"
-#include "session.h"
 
 namespace tq::html {
 
@@ -16,10 +15,14 @@ std::string TableFont(const write::WorkingValues& v)
            ">";
 }
 
-void WriteTable(Session& s, std::string_view field, std::string_view inputType, std::string_view required, bool text)
+void WriteTable(write::BuildState& b,
+                model::Mode mode,
+                std::string_view field,
+                const model::InputType& type,
+                std::string_view required,
+                bool text)
 {
-    auto& out = s.build.channels[1];
-    auto& b = s.build;
+    auto& out = b.channels[1];
     const auto& v = b.values;
     const bool req = model::EqualsNoCase(required, "YES");
     const bool italics = IsOn(v.TableItalics);
@@ -29,7 +32,7 @@ void WriteTable(Session& s, std::string_view field, std::string_view inputType, 
     if (b.wholePage) {
         for (const char* l : {"<html>", "<head>", "<title>Survey</title>", "</head>", "<body>"})
             out.line(l);
-        if (IsSurvey(s))
+        if (mode == model::Mode::Survey)
             out.line("<body bgcolor=" + Quoted(b.setupValues.BackgroundColorHex) + ">");
     }
     out.line("<div align=" + Quoted(v.ALIGN) + ">");
@@ -70,10 +73,10 @@ void WriteTable(Session& s, std::string_view field, std::string_view inputType, 
     auto& lines = b.TitleLines;
     if (lines.count() > 0) {
         std::string caption = lines.items[0];
-        NumberForMessage(b, caption, inputType);
+        NumberForMessage(b, caption, type);
         AppendMessageLine(b, caption);
         AppendMessageLine(b, std::string(field));
-        NumberForPage(b, lines.items[0], inputType);
+        NumberForPage(b, lines.items[0], type);
         if (!text && req)
             lines.items[0] = "&nbsp;&nbsp;* " + lines.items[0] + "&nbsp;&nbsp;";
     }
@@ -127,24 +130,26 @@ void WriteTable(Session& s, std::string_view field, std::string_view inputType, 
 
 } // namespace
 
-void WriteTableText(Session& s,
+void WriteTableText(write::BuildState& b,
+                    model::Mode mode,
                     std::string_view field,
                     std::string_view /*title*/,
-                    std::string_view inputType,
+                    const model::InputType& type,
                     std::string_view /*defaultValue*/,
                     std::string_view required)
 {
-    WriteTable(s, field, inputType, required, true);
+    WriteTable(b, mode, field, type, required, true);
 }
 
-void WriteTableChoices(Session& s,
+void WriteTableChoices(write::BuildState& b,
+                       model::Mode mode,
                        std::string_view field,
                        std::string_view /*title*/,
-                       std::string_view inputType,
+                       const model::InputType& type,
                        std::string_view /*defaultValue*/,
                        std::string_view required)
 {
-    WriteTable(s, field, inputType, required, false);
+    WriteTable(b, mode, field, type, required, false);
 }
 
 } // namespace tq::html

@@ -4,20 +4,22 @@
 #include "html/headings.h"
 #include "html/html_text.h"
 #include "model/text_ops.h"
-#include "session.h"
 
 namespace tq::html {
 
 namespace {
 
-void WriteEmailLines(
-    Session& s, std::string_view field, std::string_view width, const std::string& t, std::string_view defaultValue)
+void WriteEmailLines(write::BuildState& b,
+                     std::string_view field,
+                     std::string_view width,
+                     const model::InputType& type,
+                     std::string_view defaultValue)
 {
-    auto& out = s.build.channels[1];
+    auto& out = b.channels[1];
     if (defaultValue.empty()) {
-        if (t != "EMAIL")
-            WriteIndent11(s);
-        out.piece(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text"));
+        if (type.id != model::InputTypeId::Email)
+            WriteIndent11(b);
+        out.piece(ParagraphOpen(b.values.ALIGN) + "<input type=" + Quoted("text"));
         // without a width the field gets no size and no name, and a stray quote
         if (!width.empty())
             out.piece(" size=" + Quoted(width) + " name=\"" + std::string(field));
@@ -26,20 +28,20 @@ void WriteEmailLines(
         out.line("\" />");
         return;
     }
-    WriteIndent11(s);
+    WriteIndent11(b);
     if (!width.empty())
-        out.line(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text") + " size=" + Quoted(width) +
+        out.line(ParagraphOpen(b.values.ALIGN) + "<input type=" + Quoted("text") + " size=" + Quoted(width) +
                  " value=" + Quoted(defaultValue) + " name=" + Quoted(field) + " /><br />");
     else
-        out.line(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text") +
-                 " value=" + Quoted(defaultValue) + " name=" + Quoted(field) + " /><br />");
+        out.line(ParagraphOpen(b.values.ALIGN) + "<input type=" + Quoted("text") + " value=" + Quoted(defaultValue) +
+                 " name=" + Quoted(field) + " /><br />");
 }
 
 // The text area's open tag ends on the next line; a default text sets the fixed-pitch font.
-void WriteTextArea(Session& s, std::string_view field, std::string_view width, std::string_view height)
+void WriteTextArea(write::BuildState& b, std::string_view field, std::string_view width, std::string_view height)
 {
-    auto& out = s.build.channels[1];
-    const auto& lines = s.build.values.DefaultLines;
+    auto& out = b.channels[1];
+    const auto& lines = b.values.DefaultLines;
     out.line("<textarea name=" + Quoted(model::ToLower(field)) + "  rows=" + Quoted(height) + " cols=" + Quoted(width));
     if (lines.count() > 0)
         out.line("Style = " + Quoted("font-family: Courier; font-size: 10pt") + ">");
@@ -51,86 +53,87 @@ void WriteTextArea(Session& s, std::string_view field, std::string_view width, s
 
 } // namespace
 
-void WriteSurveyText(Session& s,
+void WriteSurveyText(write::BuildState& b,
+                     model::Mode mode,
                      std::string_view field,
                      std::string title,
                      std::string_view /*password*/,
                      std::string_view width,
-                     std::string_view inputType,
+                     const model::InputType& type,
                      std::string_view defaultValue,
                      std::string_view required)
 {
-    auto& out = s.build.channels[1];
-    const std::string t = model::ToUpper(inputType);
-    const std::string req = ForcedRequired(required, t);
-    if (model::StartsWithNoCase(t, "TITLE") || model::StartsWithNoCase(t, "SURVEY")) {
-        WriteSurveyHeading(s, title, req, inputType);
+    auto& out = b.channels[1];
+    const std::string req = ForcedRequired(required, type);
+    if (IsTitle(type) || type.id == model::InputTypeId::SurveyIntro) {
+        WriteSurveyHeading(b, mode, title, req, type);
         out.line("");
         return;
     }
-    if (t == "CANCEL BUTTON" || t == "BLANK LINE")
+    if (type.id == model::InputTypeId::CancelButton || type.id == model::InputTypeId::BlankLine)
         return;
-    RecordQuestion(s.build, field, title, inputType);
+    RecordQuestion(b, field, title, type);
     out.line("");
-    WriteSurveyHeading(s, title, req, inputType);
+    WriteSurveyHeading(b, mode, title, req, type);
 
-    if (t == "FOLLOWUP FILES WITH PASSWORD") {
-        out.line(ParagraphOpen(s.build.values.ALIGN));
+    if (type.id == model::InputTypeId::FollowupFilesWithPassword) {
+        out.line(ParagraphOpen(b.values.ALIGN));
         out.line("<input type=" + Quoted("password") + " size=" + Quoted("25") + " name=" + Quoted(field) + "/>");
-        WriteStyleClose(s);
-        WriteShadeClose(s);
-    } else if (t == "NAME" || t == "SUBJECT" || t == "PHONE NUMBER" || t == "CELL PHONE NUMBER") {
-        out.line(ParagraphOpen(s.build.values.ALIGN));
+        WriteStyleClose(b);
+        WriteShadeClose(b, mode);
+    } else if (type.id == model::InputTypeId::Name || type.id == model::InputTypeId::Subject ||
+               type.id == model::InputTypeId::PhoneNumber || type.id == model::InputTypeId::CellPhoneNumber) {
+        out.line(ParagraphOpen(b.values.ALIGN));
         // the input tag has no ">": the "</p>" follows the value's quote at once
         out.line("<input type=" + Quoted("text") + " size=" + Quoted("40") + " name=" + Quoted(field) +
                  "value=" + Quoted(defaultValue) + "</p>");
-        WriteShadeClose(s);
-    } else if (t == "USER NAME") {
-        out.line(ParagraphOpen(s.build.values.ALIGN));
-        out.line(ParagraphOpen(s.build.values.ALIGN) + "<input type=" + Quoted("text") + " size=" + Quoted("25") +
+        WriteShadeClose(b, mode);
+    } else if (type.id == model::InputTypeId::UserName) {
+        out.line(ParagraphOpen(b.values.ALIGN));
+        out.line(ParagraphOpen(b.values.ALIGN) + "<input type=" + Quoted("text") + " size=" + Quoted("25") +
                  " name=" + Quoted(field) + ">");
         // the style is closed twice here: the format does so
-        WriteStyleClose(s);
-        WriteStyleClose(s);
+        WriteStyleClose(b);
+        WriteStyleClose(b);
         out.line("</font>");
-        WriteShadeClose(s);
-    } else if (t == "PASSWORD" || t == "SECURITY CODE") {
-        out.line(ParagraphOpen(s.build.values.ALIGN));
+        WriteShadeClose(b, mode);
+    } else if (type.id == model::InputTypeId::Password || type.id == model::InputTypeId::SecurityCode) {
+        out.line(ParagraphOpen(b.values.ALIGN));
         out.line("<input type=" + Quoted("password") + " size=" + Quoted("25") + " name=" + Quoted(field) + " />");
-        WriteStyleClose(s);
-        WriteShadeClose(s);
+        WriteStyleClose(b);
+        WriteShadeClose(b, mode);
     } else {
-        WriteEmailLines(s, field, width, t, defaultValue);
-        WriteStyleClose(s);
-        WriteShadeClose(s);
+        WriteEmailLines(b, field, width, type, defaultValue);
+        WriteStyleClose(b);
+        WriteShadeClose(b, mode);
     }
 }
 
-void WriteFormText(Session& s,
+void WriteFormText(write::BuildState& b,
                    std::string_view field,
                    std::string title,
                    std::string_view /*password*/,
                    std::string_view width,
-                   std::string_view inputType,
+                   const model::InputType& type,
                    std::string_view defaultValue,
                    std::string_view required)
 {
-    auto& out = s.build.channels[1];
-    const std::string t = model::ToUpper(inputType);
-    const std::string req = ForcedRequired(required, t);
-    if (model::StartsWithNoCase(t, "TITLE")) {
-        WriteFormHeading(s, title, req, inputType);
+    auto& out = b.channels[1];
+    const std::string req = ForcedRequired(required, type);
+    if (IsTitle(type)) {
+        WriteFormHeading(b, title, req, type);
         return;
     }
-    if (t == "CANCEL BUTTON")
+    if (type.id == model::InputTypeId::CancelButton)
         return;
-    RecordQuestion(s.build, field, title, inputType);
+    RecordQuestion(b, field, title, type);
     out.line("");
-    WriteFormHeading(s, title, req, inputType);
+    WriteFormHeading(b, title, req, type);
 
-    WriteIndent11(s);
+    WriteIndent11(b);
     if (defaultValue.empty()) {
-        const bool hidden = t == "PASSWORD" || t == "SECURITY CODE" || t == "FOLLOWUP FILES WITH PASSWORD";
+        const bool hidden = type.id == model::InputTypeId::Password || type.id == model::InputTypeId::SecurityCode ||
+                            type.id == model::InputTypeId::FollowupFilesWithPassword;
         out.piece("<input type=" + Quoted(hidden ? "password" : "text"));
         // without a width the field gets no size and no name, and a stray quote
         if (!width.empty())
@@ -146,48 +149,49 @@ void WriteFormText(Session& s,
         out.line("<input type=" + Quoted("text") + " value=" + Quoted(defaultValue) + " name=" + Quoted(field) + " />");
     }
     // the heading's font tag stays open
-    WriteStyleClose(s);
+    WriteStyleClose(b);
 }
 
-void WriteSurveyComments(Session& s,
+void WriteSurveyComments(write::BuildState& b,
+                         model::Mode mode,
                          std::string_view field,
                          std::string title,
                          std::string_view width,
                          std::string_view height,
                          std::string_view /*defaultValue*/,
-                         std::string_view inputType,
+                         const model::InputType& type,
                          std::string_view required)
 {
-    auto& out = s.build.channels[1];
-    RecordQuestion(s.build, field, title, inputType);
+    auto& out = b.channels[1];
+    RecordQuestion(b, field, title, type);
     out.line("");
-    WriteSurveyHeading(s, title, required, inputType);
-    if (model::StartsWithNoCase(inputType, "CONDITION") || model::StartsWithNoCase(inputType, "FOLLOWUP"))
-        out.line(ParagraphOpen(s.build.values.ALIGN));
-    out.line(ParagraphOpen(s.build.values.ALIGN));
-    WriteTextArea(s, field, width, height);
+    WriteSurveyHeading(b, mode, title, required, type);
+    if (IsCondition(type) || IsFollowup(type))
+        out.line(ParagraphOpen(b.values.ALIGN));
+    out.line(ParagraphOpen(b.values.ALIGN));
+    WriteTextArea(b, field, width, height);
     out.line("</textarea>");
-    WriteStyleClose(s);
-    WriteShadeClose(s);
+    WriteStyleClose(b);
+    WriteShadeClose(b, mode);
 }
 
-void WriteFormComments(Session& s,
+void WriteFormComments(write::BuildState& b,
                        std::string_view field,
                        std::string title,
                        std::string_view width,
                        std::string_view height,
                        std::string_view /*defaultValue*/,
-                       std::string_view inputType,
+                       const model::InputType& type,
                        std::string_view required)
 {
-    auto& out = s.build.channels[1];
-    RecordQuestion(s.build, field, title, inputType);
+    auto& out = b.channels[1];
+    RecordQuestion(b, field, title, type);
     out.line("");
-    WriteFormHeading(s, title, required, inputType);
-    WriteIndent11(s);
-    WriteTextArea(s, field, width, height);
+    WriteFormHeading(b, title, required, type);
+    WriteIndent11(b);
+    WriteTextArea(b, field, width, height);
     out.line("</textarea></p>");
-    WriteStyleClose(s);
+    WriteStyleClose(b);
 }
 
 } // namespace tq::html

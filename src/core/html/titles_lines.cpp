@@ -16,10 +16,10 @@ namespace tq::html {
 namespace {
 
 // The video lines; `closing` ends the img tag.
-void WriteVideoLines(Session& s, std::string_view closing)
+void WriteVideoLines(write::BuildState& b, std::string_view closing)
 {
-    auto& out = s.build.channels[1];
-    const auto& v = s.build.values;
+    auto& out = b.channels[1];
+    const auto& v = b.values;
     out.line("<p align=" + Quoted(v.VideoAlign) + ">");
     out.piece("<img border=" + Quoted("0") + " dynsrc=" + Quoted(v.ServerPath));
     out.piece(model::EqualsNoCase(v.Autostart, "ON") ? " start=" + Quoted("fileopen")
@@ -30,10 +30,10 @@ void WriteVideoLines(Session& s, std::string_view closing)
 
 } // namespace
 
-void WriteHorizontalLine(Session& s)
+void WriteHorizontalLine(write::BuildState& b)
 {
-    auto& out = s.build.channels[1];
-    const auto& v = s.build.values;
+    auto& out = b.channels[1];
+    const auto& v = b.values;
     out.line("");
     out.line("<br>");
     out.piece("<hr size=" + Quoted(v.LineSize));
@@ -46,9 +46,8 @@ void WriteHorizontalLine(Session& s)
     out.line("");
 }
 
-void WriteTitleShade(Session& s)
+void WriteTitleShade(write::BuildState& b)
 {
-    auto& b = s.build;
     auto& out = b.channels[1];
     const auto& v = b.values;
     SplitTitle(b, v.Title);
@@ -68,7 +67,7 @@ void WriteTitleShade(Session& s)
         out.line(lines.at(i) + "<br>");
     if (lines.count() > 0)
         out.line(lines.at(lines.count()));
-    WriteStyleClose(s);
+    WriteStyleClose(b);
     out.line("</font></td>");
     out.line("  </tr>");
     out.line("  <tr>");
@@ -79,18 +78,18 @@ void WriteTitleShade(Session& s)
         out.line("<br><br>");
 }
 
-void WriteBlankLine(Session& s)
+void WriteBlankLine(write::BuildState& b)
 {
-    const long count = model::LeadingWhole(s.build.values.NewLine, 1'000'000);
+    const long count = model::LeadingWhole(b.values.NewLine, 1'000'000);
     if (count > 32767)
-        throw model::InternalError("internal error: overflow in NEW LINE " + s.build.values.NewLine);
+        throw model::InternalError("internal error: overflow in NEW LINE " + b.values.NewLine);
     for (long i = 0; i < count; ++i)
-        s.build.channels[1].line("<br>");
+        b.channels[1].line("<br>");
 }
 
-void WriteVideo(Session& s, UiPort& ui)
+void WriteVideo(write::BuildState& b, model::Mode mode, UiPort& ui)
 {
-    const auto& v = s.build.values;
+    const auto& v = b.values;
     const std::string p = model::ToUpper(v.ServerPath);
     const bool wmv = p.find(".WMV") != std::string::npos;
     const bool mp4 = p.find(".MP4") != std::string::npos;
@@ -100,37 +99,36 @@ void WriteVideo(Session& s, UiPort& ui)
             ui.message(v.ServerPath + " format is not supported", "ERROR", Icon::Critical);
         return;
     }
-    if (!IsSurvey(s)) {
+    if (mode != model::Mode::Survey) {
         // a FORM's video has no wrapper table
-        WriteVideoLines(s, "></p>");
+        WriteVideoLines(b, "></p>");
         return;
     }
-    WriteBlockOpen(s);
+    WriteBlockOpen(b);
     if (wmv)
-        WriteVideoLines(s, "></p>");
+        WriteVideoLines(b, "></p>");
     if (mp4) {
         // an MP4 leaves here: its wrapper table stays open
-        WriteVideoLines(s, "></p>");
+        WriteVideoLines(b, "></p>");
         return;
     }
     if (avi)
-        WriteVideoLines(s, ">");
-    WriteBlockClose(s);
+        WriteVideoLines(b, ">");
+    WriteBlockClose(b);
 }
 
-void WritePicture(Session& s)
+void WritePicture(write::BuildState& b, model::Mode mode)
 {
-    auto& b = s.build;
     const auto& v = b.values;
     if (model::EqualsNoCase(v.ServerPath, "NONE"))
         return;
-    if (!IsSurvey(s) && b.lastPhpSlot != 3)
+    if (mode != model::Mode::Survey && b.lastPhpSlot != 3)
         b.channels[1].line("<br><br>");
-    WriteBlockOpen(s);
+    WriteBlockOpen(b);
     b.channels[1].line("<img border=" + Quoted("0") + " src=" + Quoted(v.ServerPath) +
                        " Width = " + Quoted(v.PictureWidth) + " Height = " + Quoted(v.PictureHeight) +
                        " Align=" + Quoted(v.ALIGN) + ">");
-    WriteBlockClose(s);
+    WriteBlockClose(b);
 }
 
 } // namespace tq::html
