@@ -82,9 +82,10 @@ std::optional<BuildOptions> ParseBuild(const std::vector<std::string>& args, std
 
 } // namespace
 
-std::string ModeOfFile(const std::string& path)
+model::Mode ModeOfFile(const std::string& path)
 {
-    return model::ToUpper(std::filesystem::path(path).extension().string()) == ".SRV" ? "SURVEY" : "FORM";
+    return model::ToUpper(std::filesystem::path(path).extension().string()) == ".SRV" ? model::Mode::Survey
+                                                                                      : model::Mode::Form;
 }
 
 // the folder named by "\Tarnquill.stt" in the fixed folder of this machine
@@ -127,7 +128,7 @@ int BuildProject(Session& s, const BuildOptions& o, ConsolePort& port, std::ostr
         err << "tarnquill-cli: cannot read " << o.file << "\n";
         return 1;
     }
-    s.store.state.ProjectMode = o.mode.empty() ? ModeOfFile(o.file) : o.mode;
+    s.store.state.ProjectMode = o.mode.empty() ? ModeOfFile(o.file) : model::ModeOf(o.mode);
     auto reader = store::ReaderOf(*bytes);
     store::ReadEntries(s.store, reader);
     s.store.state.CurrentFileName = o.file;
@@ -182,7 +183,7 @@ int CmdNew(const std::vector<std::string>& args, std::ostream& out, std::ostream
     // Create Form / Create Survey on an empty store: nothing to clear, so no question
     model::EditContext c{s->store, s->settings, s->catalogue, port};
     model::InitCatalogueAtStartup(s->store, s->settings, s->catalogue);
-    if (!model::CreateNewProject(c, model::ModeHooks{}, mode, 2)) {
+    if (!model::CreateNewProject(c, model::ModeHooks{}, model::ModeOf(mode), 2)) {
         err << "tarnquill-cli: no new project was made\n";
         return 1;
     }

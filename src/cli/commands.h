@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/mode.h"
+
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -45,7 +47,7 @@ int CmdSite(const std::vector<std::string>& args, std::istream& in, std::ostream
 int CmdPublish(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 
 /// The project mode a file's extension gives: SURVEY for ".srv", else FORM.
-std::string ModeOfFile(const std::string& path);
+model::Mode ModeOfFile(const std::string& path);
 /// The data folder named by "Tarnquill.stt" in the fixed folder of this
 /// machine; nothing when there is none.
 std::optional<std::string> DefaultDataFolder();

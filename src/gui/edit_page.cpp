@@ -446,7 +446,7 @@ void EditPage::openEditWindow(int row)
 {
     const auto& f = m_state.fields[static_cast<size_t>(row)];
     m_window->open(row, ToQ(f.Key).trimmed().toUpper(), ToQ(shell::ValueToWindow(f.Key, f.Value)),
-                   model::ModeOf(m_session.store.state.ProjectMode) == model::Mode::Survey);
+                   m_session.store.state.ProjectMode == model::Mode::Survey);
     m_scroll->hide();
     if (m_web)
         m_web->hide();

@@ -251,7 +251,7 @@ void MainWindow::makeShortcuts()
     // one shortcut per key for the whole window; the page on show decides what it runs
     QList<QKeySequence> made;
     for (View v : {View::StartPage, View::Page2, View::EditPage})
-        for (const KeyCommand& k : KeysOf(v, "FORM")) {
+        for (const KeyCommand& k : KeysOf(v, model::Mode::Form)) {
             if (made.contains(k.key))
                 continue;
             made << k.key;
@@ -282,7 +282,7 @@ void MainWindow::pressKey(const QKeySequence& key)
 
 void MainWindow::applyMenuKeys()
 {
-    const std::string& mode = m_session.store.state.ProjectMode;
+    const model::Mode mode = m_session.store.state.ProjectMode;
     for (auto it = m_views.cbegin(); it != m_views.cend(); ++it) {
         const auto keys = KeysOf(it.key(), mode);
         for (QAction* a : it.value()->findChildren<QAction*>()) {
@@ -428,7 +428,7 @@ void MainWindow::refreshAll()
     m_start->setStatus(ToQ(st.modeLabel), ToQ(st.fileLabel));
     for (auto* p : madePages()) {
         p->setCaptions(ToQ(st.pageCaptions[static_cast<size_t>(p->page() - 1)]), ToQ(st.modeLabel), ToQ(st.fileLabel),
-                       ToQ(s.store.state.ProjectMode));
+                       ToQ(std::string(model::ModeText(s.store.state.ProjectMode))));
         setPickList(p);
         p->refresh();
     }

@@ -44,7 +44,7 @@ store::ProjectHooks MainWindow::projectHooks()
         auto c = editContext();
         return model::ClearAllRows(c, 1) ? 0 : 1;
     };
-    hooks.switchMode = [this](Session&, UiPort&, const std::string& mode, int targetPage) {
+    hooks.switchMode = [this](Session&, UiPort&, model::Mode mode, int targetPage) {
         auto c = editContext();
         model::SwitchMode(c, modeHooks(), mode, targetPage, 1);
     };
@@ -55,16 +55,16 @@ void MainWindow::registerModeCommands()
 {
     // From the start page a new project opens Page 1; from a Page the view
     // named by the mode switch of the Pages, the start page, is shown.
-    auto create = [this](const char* mode) {
+    auto create = [this](model::Mode mode) {
         auto c = editContext();
         model::CreateNewProject(c, modeHooks(), mode, m_view == View::StartPage ? 2 : 1);
         for (CreatePage* p : madePages())
             p->hidePreview();
     };
-    registerCommand("CreateNewForm", [create] { create("FORM"); });
-    registerCommand("CreateSurvey", [create] { create("SURVEY"); });
+    registerCommand("CreateNewForm", [create] { create(model::Mode::Form); });
+    registerCommand("CreateSurvey", [create] { create(model::Mode::Survey); });
 
-    auto list = [this](const char* mode) {
+    auto list = [this](model::Mode mode) {
         const View from = m_view;
         auto c = editContext();
         if (!model::SwitchProjectList(c, modeHooks(), mode))
@@ -79,8 +79,8 @@ void MainWindow::registerModeCommands()
             Answer::Yes)
             showView(View::Page1);
     };
-    registerCommand("FormList", [list] { list("FORM"); });
-    registerCommand("SurveyList", [list] { list("SURVEY"); });
+    registerCommand("FormList", [list] { list(model::Mode::Form); });
+    registerCommand("SurveyList", [list] { list(model::Mode::Survey); });
 }
 
 void MainWindow::wireRowActions(CreatePage* p)

@@ -5,9 +5,9 @@
 
 namespace tq::gui {
 
-QList<KeyCommand> KeysOf(View view, std::string_view mode)
+QList<KeyCommand> KeysOf(View view, model::Mode mode)
 {
-    const bool survey = model::EqualsNoCase(mode, "SURVEY");
+    const bool survey = mode == model::Mode::Survey;
     const bool page = view >= View::Page1 && view <= View::Page4;
     QList<KeyCommand> keys;
     if (view == View::EditPage) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/mode.h"
 #include "port/ui_port.h"
 
 #include <QKeySequence>
@@ -21,6 +22,6 @@ struct KeyCommand
 /// in `mode` ("FORM" or "SURVEY"): new, open and save follow the active
 /// mode; Page Up and Page Down only move between the four Pages. A key the
 /// view has no command for is left out.
-QList<KeyCommand> KeysOf(View view, std::string_view mode);
+QList<KeyCommand> KeysOf(View view, model::Mode mode);
 
 } // namespace tq::gui

@@ -9,8 +9,8 @@
 #include "store/project_file.h"
 #include "store/text_file.h"
 
-#include <benchmark/benchmark.h>
 #include <algorithm>
+#include <benchmark/benchmark.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -64,7 +64,7 @@ std::unique_ptr<Session> MakeProject(bool survey, int count, const std::string& 
 
     auto s = std::make_unique<Session>();
     s->DataFolder = data;
-    s->store.state.ProjectMode = survey ? "SURVEY" : "FORM";
+    s->store.state.ProjectMode = survey ? tq::model::Mode::Survey : tq::model::Mode::Form;
     // every row keeps its ordinal as reference number, the empty ones too
     for (size_t page = 0; page < s->store.pages.size(); ++page)
         for (size_t row = 0; row < s->store.pages[page].size(); ++row)

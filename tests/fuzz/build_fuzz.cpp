@@ -104,7 +104,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         const bool survey = (run & 1) != 0;
         auto s = std::make_unique<tq::Session>();
         s->DataFolder = ScratchRoot() + "/data";
-        s->store.state.ProjectMode = survey ? "SURVEY" : "FORM";
+        s->store.state.ProjectMode = survey ? tq::model::Mode::Survey : tq::model::Mode::Form;
         auto reader = tq::store::ReaderOf(bytes);
         tq::store::ReadEntries(s->store, reader);
         s->store.pages[0][0].InputTypeName = "Setup";

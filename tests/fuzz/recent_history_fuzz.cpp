@@ -92,7 +92,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 
     s.run.CurrentProjectName = dir + "/real.fms";
     for (const char* mode : {"FORM", "SURVEY"}) {
-        s.store.state.ProjectMode = mode;
+        s.store.state.ProjectMode = tq::model::ModeOf(mode);
         UpdateRecentList(s, ui);
         const auto lines = SplitFileLines(
             ReadWholeFile(HistoryPath(dir, std::string(mode) == "FORM" ? RecentList::Forms : RecentList::Surveys))

@@ -95,7 +95,7 @@ class CreatePageTest : public QObject
             script.press(QMessageBox::Yes); // clear the entries of the form
             QVERIFY(test::Trigger(&w, "CreateSurvey"));
         }
-        QCOMPARE(QString::fromStdString(w.session().store.state.ProjectMode), QString("SURVEY"));
+        QVERIFY(w.session().store.state.ProjectMode == tq::model::Mode::Survey);
         // from a Page the mode switch of a new project shows the start page
         QCOMPARE(w.currentView(), tq::View::StartPage);
         QVERIFY(test::Trigger(&w, "ViewFormSurvey"));

@@ -110,7 +110,7 @@ class DesktopTest : public QObject
                                    "CreatingFormSurvey", "Exit"}));
 
         // new, open and save follow the active mode; the menus show the keys
-        w.session().store.state.ProjectMode = "SURVEY";
+        w.session().store.state.ProjectMode = tq::model::Mode::Survey;
         w.refreshAll();
         ran.clear();
         for (int key : {Qt::Key_N, Qt::Key_O, Qt::Key_S})

@@ -89,7 +89,7 @@ class EditPageTest : public QObject
         test::StartedWindow app;
         MainWindow& w = *app.w;
         auto& s = w.session();
-        s.store.state.ProjectMode = "SURVEY";
+        s.store.state.ProjectMode = tq::model::Mode::Survey;
         tq::model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
         app.put(1, 1, "Title Shade");
         auto& text = w.session().store.pages[0][1].AttributeText;
@@ -209,7 +209,7 @@ class EditPageTest : public QObject
         test::StartedWindow app;
         MainWindow& w = *app.w;
         auto& s = w.session();
-        s.store.state.ProjectMode = "SURVEY";
+        s.store.state.ProjectMode = tq::model::Mode::Survey;
         tq::model::BuildCatalogue(s.catalogue, s.settings, s.store.state);
         app.put(1, 0, "Setup");
         app.put(1, 1, "Name");

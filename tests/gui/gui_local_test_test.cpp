@@ -48,7 +48,7 @@ std::string SampleWith(const QStringList& keep)
 
 void LoadProject(tq::Session& s, const std::string& bytes)
 {
-    s.store.state.ProjectMode = "FORM";
+    s.store.state.ProjectMode = tq::model::Mode::Form;
     auto reader = tq::store::ReaderOf(bytes);
     tq::store::ReadEntries(s.store, reader);
 }

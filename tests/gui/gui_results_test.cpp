@@ -45,7 +45,7 @@ class ResultsWindowTest : public QObject
         tq::Session session;
         session.DataFolder = dir.filePath("data").toStdString();
         QDir().mkpath(dir.filePath("data"));
-        session.store.state.ProjectMode = "FORM";
+        session.store.state.ProjectMode = tq::model::Mode::Form;
         auto reader = tq::store::ReaderOf(*tq::store::ReadWholeFile(TQ_DATA_DIR "/../tests/e2e/fixtures/e2e_form.fms"));
         tq::store::ReadEntries(session.store, reader);
 
@@ -56,7 +56,8 @@ class ResultsWindowTest : public QObject
         QFile f(box);
         QVERIFY(f.open(QIODevice::WriteOnly));
         f.write((ResultMail("Zoë", "Germany", "Checked: Beginner\nChecked: Advanced\n") +
-                 ResultMail("Ann", "Sweden", "Checked: Advanced\n") + ResultMail("Bo", "Germany", "Checked: Beginner\n") +
+                 ResultMail("Ann", "Sweden", "Checked: Advanced\n") +
+                 ResultMail("Bo", "Germany", "Checked: Beginner\n") +
                  "From x@y Mon Nov 23 10:00:00 2026\nSubject: hello\r\n\r\nnot a result\r\n")
                     .c_str());
         f.close();
@@ -67,7 +68,8 @@ class ResultsWindowTest : public QObject
         QCOMPARE(window.table()->model()->rowCount(), 3);
         QVERIFY(window.summary()->text().startsWith("3 submissions from 4 mails read; 1 skipped"));
         const int name = 2;
-        QCOMPARE(window.table()->model()->headerData(name, Qt::Horizontal).toString(), QString("1. Enter your full name"));
+        QCOMPARE(window.table()->model()->headerData(name, Qt::Horizontal).toString(),
+                 QString("1. Enter your full name"));
         window.table()->sortByColumn(name, Qt::AscendingOrder);
         QCOMPARE(window.table()->model()->index(0, name).data().toString(), QString("Ann"));
         QCOMPARE(window.table()->model()->index(2, name).data().toString(), QString("Zoë"));
@@ -84,7 +86,8 @@ class ResultsWindowTest : public QObject
         QFile c(csv);
         QVERIFY(c.open(QIODevice::ReadOnly));
         const QByteArray bytes = c.readAll();
-        QVERIFY(bytes.startsWith("\xEF\xBB\xBF" "Date,Address,1. Enter your full name,"));
+        QVERIFY(bytes.startsWith("\xEF\xBB\xBF"
+                                 "Date,Address,1. Enter your full name,"));
         QVERIFY(bytes.contains("Zoë"));
         const QString pdf = dir.filePath("out.pdf");
         QVERIFY(window.exportPdf(pdf));

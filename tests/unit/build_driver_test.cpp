@@ -29,7 +29,7 @@ struct Project
     explicit Project(const std::string& output = "formtql.htm")
     {
         s->DataFolder = data.path();
-        s->store.state.ProjectMode = "FORM";
+        s->store.state.ProjectMode = tq::model::Mode::Form;
         auto& setupRow = s->store.pages[0][0];
         setupRow.InputTypeName = "Setup";
         setupRow.AttributeText = tq::test::SetupEntryText(web.path(), {.output = output});
@@ -229,7 +229,7 @@ TEST(WholeBuild, FormWithTitlesLinesPicturesAndVideosInAFrame)
 TEST(WholeBuild, SurveyPutsVideosAndPicturesInTheWrapperTable)
 {
     Project p("surveytql.htm");
-    p.s->store.state.ProjectMode = "SURVEY";
+    p.s->store.state.ProjectMode = tq::model::Mode::Survey;
     p.s->store.pages[0][0].AttributeText = tq::test::SetupEntryText(
         p.web.path(), {.output = "surveytql.htm", .frame = "YES", .lead = "[Background Color=9022343] [Info: c]\r\n"});
     p.add(1, "Title Shade", kTitleShade);
@@ -292,7 +292,7 @@ TEST(WholeBuild, FollowupsOfNotRequiredConditionsNameTheLastConditionOfThePagePa
         const std::string script = survey ? "surveytql.php" : "formtql.php";
         {
             Project p(output);
-            p.s->store.state.ProjectMode = survey ? "SURVEY" : "FORM";
+            p.s->store.state.ProjectMode = survey ? tq::model::Mode::Survey : tq::model::Mode::Form;
             p.add(1, "Condition With Comment", NotRequired(mode, "condition_with_comment"));
             p.add(2, "Followup With Multiple Choices", NotRequired(mode, "followup_with_multiple_choices"));
             ScriptedPort port;
@@ -303,7 +303,7 @@ TEST(WholeBuild, FollowupsOfNotRequiredConditionsNameTheLastConditionOfThePagePa
         }
         {
             Project p(output);
-            p.s->store.state.ProjectMode = survey ? "SURVEY" : "FORM";
+            p.s->store.state.ProjectMode = survey ? tq::model::Mode::Survey : tq::model::Mode::Form;
             p.add(1, "Condition With Dropdown", NotRequired(mode, "condition_with_dropdown"));
             p.add(2, "Followup With Dropdown", NotRequired(mode, "followup_with_dropdown"));
             // behind Page 1's rows by number: the build's reordering keeps them last

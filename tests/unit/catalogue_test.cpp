@@ -12,7 +12,7 @@ TEST(Catalogue, RandomCodesAreEightDiceDrawnAfreshForEachTemplateAndBuild)
     Catalogue catalogue;
     TemplateSettings settings;
     StateRecord state;
-    state.ProjectMode = "FORM";
+    state.ProjectMode = tq::model::Mode::Form;
     const auto code = [&](std::string_view type) {
         const std::string text = CatalogueTemplate(catalogue, FindCatalogueIndex(catalogue, type));
         const size_t at = text.find("[Password=") + 10;

@@ -36,7 +36,7 @@ TEST(EntryWriters, CentredBoldTitleShade)
 {
     for (const char* mode : {"FORM", "SURVEY"}) {
         auto s = std::make_unique<tq::Session>();
-        s->store.state.ProjectMode = mode;
+        s->store.state.ProjectMode = tq::model::ModeOf(mode);
         auto& v = s->build.values;
         v.Title = "Welcome";
         v.TitleShadeWidth = "60%";
@@ -58,7 +58,7 @@ TEST(EntryWriters, SurveyVideoSuffixesAreTestedApartAndAnUnknownOneIsReported)
     for (const auto& [path, golden] : cases) {
         SCOPED_TRACE(path);
         auto s = std::make_unique<tq::Session>();
-        s->store.state.ProjectMode = "SURVEY";
+        s->store.state.ProjectMode = tq::model::Mode::Survey;
         auto& v = s->build.values;
         v.ServerPath = path;
         v.ALIGN = "left"; // left by the Entry before: the wrapper table takes it
@@ -80,7 +80,7 @@ TEST(EntryWriters, SurveyVideoSuffixesAreTestedApartAndAnUnknownOneIsReported)
 TEST(EntryWriters, AFormPictureAfterAPhpPassEndingInSlotThreeHasNoBreaks)
 {
     auto s = std::make_unique<tq::Session>();
-    s->store.state.ProjectMode = "FORM";
+    s->store.state.ProjectMode = tq::model::Mode::Form;
     s->build.values.ServerPath = "https://www.tarnquill.example/test/cloudark.gif";
     s->build.values.ALIGN = "center";
     s->build.values.PictureWidth = "200";

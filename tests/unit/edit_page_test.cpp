@@ -77,7 +77,7 @@ TEST_F(EditPage, AFailingCheckKeepsThePageOpenAndExitStoresTheRows)
 
 TEST_F(EditPage, SetupValuesGoIntoTheSettingsAndHiddenRowsAreKept)
 {
-    s->store.state.ProjectMode = "SURVEY";
+    s->store.state.ProjectMode = tq::model::Mode::Survey;
     EditState st = OpenEditPage(*s, port, 1, 0);
     EXPECT_FALSE(st.fields[5].visible);
     st.fields[3].Value = "boss@site.example";
@@ -102,7 +102,7 @@ TEST_F(EditPage, TheCommitEndsAtTheFirstRowWithoutAKey)
 
 TEST_F(EditPage, TheFrameSwitchedOnInAFormShowsTheWarningOfTheModeSwitch)
 {
-    s->store.state.ProjectMode = "FORM";
+    s->store.state.ProjectMode = tq::model::Mode::Form;
     EditState st = OpenEditPage(*s, port, 1, 0);
     SetPullDownValue(*s, port, st, 4, "NO");
     EXPECT_TRUE(port.shown.empty());

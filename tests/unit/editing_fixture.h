@@ -24,7 +24,7 @@ struct EditFixture
 
     explicit EditFixture(std::string mode = "FORM")
     {
-        store.state.ProjectMode = std::move(mode);
+        store.state.ProjectMode = model::ModeOf(mode);
         auto k = std::make_shared<int>(0);
         catalogue.Random = [k] { return ((*k)++ % 6) / 6.0 + 0.01; };
         model::FillPickLists(catalogue, settings, store.state);

@@ -59,7 +59,7 @@ TEST(Extraction, FaultsThatStopTheBuild)
         SCOPED_TRACE(std::string(r.type) + (r.preview ? " preview" : ""));
         tq::Session s;
         tq::test::ScriptedPort ui;
-        s.store.state.ProjectMode = "FORM";
+        s.store.state.ProjectMode = tq::model::Mode::Form;
         s.build.setupValues.GlobalAlign = "NONE";
         s.build.setupValues.GlobalTextColor = "NONE";
         s.build.entryPreview = r.preview;

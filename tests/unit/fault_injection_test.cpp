@@ -110,7 +110,7 @@ TEST_F(FailedWrite, ABuildKeepsTheOldPageAndScriptAndStops)
     const std::string html = file("formtql.htm"), php = file("formtql.php");
     auto s = std::make_unique<tq::Session>();
     s->DataFolder = data.path();
-    s->store.state.ProjectMode = "FORM";
+    s->store.state.ProjectMode = tq::model::Mode::Form;
     s->store.pages[0][0] = {"Setup", tq::test::SetupEntryText(dir.path()), "1", false, tq::model::Highlight::None};
     port.answer(Answer::No);  // EDIT SETUP
     port.answer(Answer::Yes); // Duplicate File

@@ -26,7 +26,7 @@ struct HtmlFixture
 
     explicit HtmlFixture(std::string_view mode = "FORM")
     {
-        s.store.state.ProjectMode = std::string(mode);
+        s.store.state.ProjectMode = model::ModeOf(mode);
         s.DataFolder = dir.path();
         s.build.setupValues.NumberEachQuestion = "NO";
         auto& v = s.build.values;

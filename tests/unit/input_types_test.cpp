@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "model/input_types.h"
-
 #include "model/catalogue.h"
+#include "model/input_types.h"
 #include "model/internal_error.h"
 #include "model/text_ops.h"
 
@@ -20,7 +19,7 @@ std::set<std::string> CatalogueNamesOf(Mode mode)
     Catalogue catalogue;
     TemplateSettings settings;
     StateRecord state;
-    state.ProjectMode = std::string(ModeText(mode));
+    state.ProjectMode = mode;
     BuildCatalogue(catalogue, settings, state);
     std::set<std::string> names;
     for (int i = 0; i <= catalogue.CatalogueCount; ++i)
@@ -75,7 +74,8 @@ TEST(InputTypes, EachCatalogueNameHasItsRowAndEachOfferedRowIsInTheCatalogue)
         }
         // the pick list holds every type of the mode but SETUP and the Followups
         for (const InputType& row : InputTypes()) {
-            const bool listed = OfferedIn(row, mode) && row.id != InputTypeId::Setup && row.pairing != Pairing::Followup;
+            const bool listed =
+                OfferedIn(row, mode) && row.id != InputTypeId::Setup && row.pairing != Pairing::Followup;
             EXPECT_EQ(names.count(std::string(row.displayName)), listed ? 1u : 0u) << row.name;
         }
     }

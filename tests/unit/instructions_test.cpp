@@ -44,7 +44,7 @@ struct Instructions : ::testing::Test
 
 TEST_F(Instructions, AWholePageFormNamesBothFilesAndTheServerPath)
 {
-    s->store.state.ProjectMode = "FORM";
+    s->store.state.ProjectMode = tq::model::Mode::Form;
     s->setup.rows[2].WebFolderPath = web.path() + "/";
     s->setup.rows[2].WebServerPath = ";https://site.example/forms";
     // two pictures make one line, with the first path
@@ -73,7 +73,7 @@ TEST_F(Instructions, AWholePageFormNamesBothFilesAndTheServerPath)
 
 TEST_F(Instructions, AFragmentSurveyTakesTheSingularAndThePasteSteps)
 {
-    s->store.state.ProjectMode = "SURVEY";
+    s->store.state.ProjectMode = tq::model::Mode::Survey;
     s->setup.rows[0].WebFolderPath = web.path();
     compose::CreateFormOnly(*s, port);
     EXPECT_EQ(port.page.title, "INSTRUCTIONS ON GETTING YOUR SURVEY ON THE INTERNET ");

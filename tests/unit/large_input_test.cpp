@@ -46,7 +46,7 @@ TEST(LargeInput, PassingAListBoundIsToldAsAnInternalErrorAndStopsTheBuild)
     auto s = std::make_unique<tq::Session>();
     ScriptedPort port;
     s->DataFolder = data.path();
-    s->store.state.ProjectMode = "FORM";
+    s->store.state.ProjectMode = tq::model::Mode::Form;
     s->store.pages[0][0] = {"Setup", tq::test::SetupEntryText(web.path()), "1", false, tq::model::Highlight::None};
     std::string text = tq::test::ReadFileBytes(std::string(TQ_GOLDEN_DIR) + "/templates/form/dropdown_required.txt");
     const std::string key = "[Default Dropdown Value=";

@@ -35,14 +35,14 @@ TEST(SwitchMode, ARefusedClearIsAbortedAndSaysWhy)
     EditFixture f;
     InitNewProject(f.ctx);
     f.port.answer(Answer::No);
-    EXPECT_EQ(SwitchMode(f.ctx, {}, "SURVEY", 2, 0), 1);
+    EXPECT_EQ(SwitchMode(f.ctx, {}, tq::model::Mode::Survey, 2, 0), 1);
     EXPECT_EQ(f.store.state.AbortFlag, 1);
     EXPECT_EQ(CountFilledRows(f.store), 7);
     EXPECT_TRUE(Said(f.port.last(), "All entries must be cleared before you can switch to the SURVEY page", "ABORTED",
                      Icon::Information));
     EXPECT_FALSE(f.store.state.SwitchInProgress);
     f.port.answer(Answer::No);
-    SwitchMode(f.ctx, {}, "FORM", 2, 0, true);
+    SwitchMode(f.ctx, {}, tq::model::Mode::Form, 2, 0, true);
     EXPECT_EQ(f.port.last().text,
               "That is because all input type colors must be changed to black\rAll entries must be cleared before "
               "you can switch the table off.");

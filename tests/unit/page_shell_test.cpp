@@ -18,7 +18,7 @@ const std::string kImage = "https://www.tarnquill.example/test/bg.gif";
 std::unique_ptr<tq::Session> MakeSession(bool survey)
 {
     auto s = std::make_unique<tq::Session>();
-    s->store.state.ProjectMode = survey ? "survey" : "FORM"; // compared upper-cased
+    s->store.state.ProjectMode = survey ? tq::model::Mode::Survey : tq::model::Mode::Form;
     auto& setup = s->build.setupValues;
     setup.FrameOff = 0;
     setup.TotalFrames = 1;

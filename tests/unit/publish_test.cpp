@@ -87,7 +87,7 @@ struct Publishing : ::testing::Test
     {
         ui.s = s.get();
         s->DataFolder = data.path();
-        s->store.state.ProjectMode = "FORM";
+        s->store.state.ProjectMode = tq::model::Mode::Form;
         s->store.pages[0][0] = {"Setup", test::SetupEntryText(web.path()), "1", true};
         compose::CreateFormHTMLCode(*s, ui);
         ASSERT_EQ(ui.listed, (std::vector<std::string>{"formtql.htm", "formtql.php"}));

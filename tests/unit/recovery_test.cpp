@@ -30,7 +30,7 @@ store::ProjectHooks ClearingHooks()
         s.store.pages = model::PageRows{};
         return 0;
     };
-    hooks.switchMode = [](Session& s, UiPort&, const std::string& mode, int) { s.store.state.ProjectMode = mode; };
+    hooks.switchMode = [](Session& s, UiPort&, tq::model::Mode mode, int) { s.store.state.ProjectMode = mode; };
     return hooks;
 }
 
@@ -39,7 +39,7 @@ store::ProjectHooks ClearingHooks()
 TEST(Recovery, EveryByteComesBackAndAnythingLessThanAWholeCopyIsRefused)
 {
     Session s;
-    s.store.state.ProjectMode = "SURVEY";
+    s.store.state.ProjectMode = tq::model::Mode::Survey;
     s.store.state.CurrentFileName = "/home/u/odd\nname 12:.srv";
     Put(s, 1, 0, "Setup", std::string("[A=1]\r\n\0\xff\n3:x\n", 14)); // a NUL and a stray byte inside
     Put(s, 4, 24, "Email", "");
@@ -47,7 +47,7 @@ TEST(Recovery, EveryByteComesBackAndAnythingLessThanAWholeCopyIsRefused)
     const std::string text = store::RecoveryText(s);
     auto copy = store::ReadRecoveryText(text);
     ASSERT_TRUE(copy);
-    EXPECT_EQ(copy->mode, "SURVEY");
+    EXPECT_EQ(copy->mode, tq::model::Mode::Survey);
     EXPECT_EQ(copy->fileName, s.store.state.CurrentFileName);
     for (size_t p = 0; p < copy->pages.size(); ++p) {
         for (size_t r = 0; r < copy->pages[p].size(); ++r) {
@@ -66,6 +66,12 @@ TEST(Recovery, EveryByteComesBackAndAnythingLessThanAWholeCopyIsRefused)
         EXPECT_FALSE(store::ReadRecoveryText(changed)) << length;
     }
     EXPECT_FALSE(store::ReadRecoveryText("TARNQUILL RECOVERY 1\n99999999999999999999999:x\n"));
+    // the mode is written in one way only: another spelling would not come back byte for byte
+    for (const char* mode : {"6:Survey", "4:FORM"}) {
+        std::string changed = text;
+        changed.replace(changed.find("6:SURVEY"), 8, mode);
+        EXPECT_EQ(store::ReadRecoveryText(changed).has_value(), std::string(mode) == "4:FORM") << mode;
+    }
 }
 
 TEST(Recovery, TheCopyFollowsTheRowsAndGoesWhenTheyAreSaved)
@@ -105,7 +111,7 @@ TEST(Recovery, AtStartANewerCopyIsOfferedAndRestoredAStaleOrRefusedOneRemoved)
     const std::string project = dir.file("club.srv");
     Session crashed;
     crashed.DataFolder = dir.path();
-    crashed.store.state.ProjectMode = "SURVEY";
+    crashed.store.state.ProjectMode = tq::model::Mode::Survey;
     crashed.store.state.CurrentFileName = project;
     Put(crashed, 3, 7, "Rating", "[Title=r]\r\n");
     const std::string copy = store::RecoveryText(crashed);
@@ -131,7 +137,7 @@ TEST(Recovery, AtStartANewerCopyIsOfferedAndRestoredAStaleOrRefusedOneRemoved)
     EXPECT_EQ(shown[0].title, "RESTORE ENTRIES");
     EXPECT_NE(shown[0].text.find(project), std::string::npos);
     EXPECT_EQ(At(*s, 3, 7).InputTypeName, "Rating");
-    EXPECT_EQ(s->store.state.ProjectMode, "SURVEY");
+    EXPECT_EQ(s->store.state.ProjectMode, tq::model::Mode::Survey);
     EXPECT_EQ(s->store.state.CurrentFileName, project);
     EXPECT_TRUE(std::filesystem::exists(copyPath)); // still unsaved
 

@@ -21,8 +21,10 @@ namespace {
 // A body as the script writes it: the head, then caption/answer blocks, then the end.
 std::string Body(const std::string& blocks, const std::string& from = "Shop")
 {
-    return "A message has been submitted from\r\n" + from + "@\r\n\r\nDate: Monday November 23, 2026\r\n\r\n"
-           "Send from public IP Address\r\n10.0.0.7\r\n\r\n" + blocks + "End of message\r\n";
+    return "A message has been submitted from\r\n" + from +
+           "@\r\n\r\nDate: Monday November 23, 2026\r\n\r\n"
+           "Send from public IP Address\r\n10.0.0.7\r\n\r\n" +
+           blocks + "End of message\r\n";
 }
 
 std::string Mail(const std::string& body, const std::string& extraHeaders = "")
@@ -55,14 +57,13 @@ TEST(ResultBody, NumberedCaptionsSplitAnswersEvenAcrossBlankLinesAndBoxes)
     EXPECT_EQ(s->from, "Shop@");
     EXPECT_EQ(s->date, "Monday November 23, 2026");
     EXPECT_EQ(s->address, "10.0.0.7");
-    const std::vector<std::pair<std::string, std::string>> want{
-        {"1. Name", "Ann & \"Bo\""},
-        {"2. Comments", "Line one\n\nLine three"},
-        {"3. Level", "Beginner\nAdvanced"},
-        {"4a. Karaoke?", "yes"},
-        {"4b. When", "Friday"},
-        {"5. Empty", ""},
-        {"6. Password (case sensitive)", "Pw1"}};
+    const std::vector<std::pair<std::string, std::string>> want{{"1. Name", "Ann & \"Bo\""},
+                                                                {"2. Comments", "Line one\n\nLine three"},
+                                                                {"3. Level", "Beginner\nAdvanced"},
+                                                                {"4a. Karaoke?", "yes"},
+                                                                {"4b. When", "Friday"},
+                                                                {"5. Empty", ""},
+                                                                {"6. Password (case sensitive)", "Pw1"}};
     EXPECT_EQ(Pairs(*s), want);
     EXPECT_EQ(s->answers[2].picks, (std::vector<std::string>{"Beginner", "Advanced"}));
 }
@@ -78,8 +79,9 @@ TEST(ResultBody, KnownCaptionsAndUnnumberedForms)
     // with the project's captions a caption of several lines and an answer with empty lines stay whole
     const KnownCaptions known{CaptionLines("Enter the code\\n   (exact)"), CaptionLines("Comments"),
                               CaptionLines("City")};
-    s = ReadResultBody(Body("Enter the code\r\n   (exact)\r\nX1\r\n\r\nComments\r\nA\r\n\r\nB\r\n\r\nCity\r\nRome\r\n\r\n"),
-                       known, fault);
+    s = ReadResultBody(
+        Body("Enter the code\r\n   (exact)\r\nX1\r\n\r\nComments\r\nA\r\n\r\nB\r\n\r\nCity\r\nRome\r\n\r\n"), known,
+        fault);
     ASSERT_TRUE(s);
     EXPECT_EQ(Pairs(*s), (std::vector<std::pair<std::string, std::string>>{
                              {"Enter the code (exact)", "X1"}, {"Comments", "A\n\nB"}, {"City", "Rome"}}));
@@ -111,21 +113,23 @@ TEST(MailText, TransferEncodingsCharsetsAndWrappersAreUndone)
     EXPECT_EQ(fault, MailFault::None);
 
     const std::string qp = Mail(Body("1. Name\r\nZo=C3=AB\r\n\r\n"), "MIME-Version: 1.0\r\nContent-Type: text/plain; "
-                                                                   "charset=utf-8\r\nContent-Transfer-Encoding: "
-                                                                   "quoted-printable\r\nMessage-ID: <a@b>\r\n");
+                                                                     "charset=utf-8\r\nContent-Transfer-Encoding: "
+                                                                     "quoted-printable\r\nMessage-ID: <a@b>\r\n");
     const MailText m = ReadMailText(qp, fault);
     EXPECT_EQ(m.text, body);
     EXPECT_EQ(m.messageId, "a@b");
 
-    const std::string latin1 = Mail(Body("1. Name\r\nZo\xEB\r\n\r\n"), "Content-Type: text/plain; charset=iso-8859-1\r\n");
+    const std::string latin1 =
+        Mail(Body("1. Name\r\nZo\xEB\r\n\r\n"), "Content-Type: text/plain; charset=iso-8859-1\r\n");
     EXPECT_EQ(ReadMailText(latin1, fault).text, body);
 
     // re-wrapped: multipart/mixed with the text base64-encoded and a binary attachment first
-    const std::string wrapped = Mail("--XX\r\nContent-Type: application/octet-stream\r\nContent-Disposition: "
-                                     "attachment\r\n\r\nAAAA\r\n--XX\r\nContent-Type: text/plain; charset=utf-8\r\n"
-                                     "Content-Transfer-Encoding: base64\r\n\r\n" +
-                                         std::string("QSBtZXNzYWdlIGhhcyBiZWVuIHN1Ym1pdHRlZCBmcm9tDQo=") + "\r\n--XX--\r\n",
-                                     "MIME-Version: 1.0\r\nContent-Type: multipart/mixed; boundary=XX\r\n");
+    const std::string wrapped =
+        Mail("--XX\r\nContent-Type: application/octet-stream\r\nContent-Disposition: "
+             "attachment\r\n\r\nAAAA\r\n--XX\r\nContent-Type: text/plain; charset=utf-8\r\n"
+             "Content-Transfer-Encoding: base64\r\n\r\n" +
+                 std::string("QSBtZXNzYWdlIGhhcyBiZWVuIHN1Ym1pdHRlZCBmcm9tDQo=") + "\r\n--XX--\r\n",
+             "MIME-Version: 1.0\r\nContent-Type: multipart/mixed; boundary=XX\r\n");
     EXPECT_EQ(ReadMailText(wrapped, fault).text, "A message has been submitted from\r\n");
 
     const std::string forwarded = Mail("--F\r\nContent-Type: message/rfc822\r\n\r\n" + Mail(body) + "\r\n--F--\r\n",
@@ -156,7 +160,7 @@ TEST(ResultSet, MatchesProjectCountsChoicesAndSkipsWhatIsNotItsOwn)
     fs::create_directories(scratch / "data");
     tq::Session s;
     s.DataFolder = (scratch / "data").string();
-    s.store.state.ProjectMode = "FORM";
+    s.store.state.ProjectMode = tq::model::Mode::Form;
     auto reader = tq::store::ReaderOf(*tq::store::ReadWholeFile(TQ_SOURCE_DIR "/tests/e2e/fixtures/e2e_form.fms"));
     tq::store::ReadEntries(s.store, reader);
     ProjectQuestions project;
@@ -185,9 +189,9 @@ TEST(ResultSet, MatchesProjectCountsChoicesAndSkipsWhatIsNotItsOwn)
     AddMail(set, "\x01\x02 not a mail at all", "bytes");
     EXPECT_EQ(set.rows.size(), 3u);
     EXPECT_EQ(set.mailsRead, 7);
-    EXPECT_EQ(set.skipped, (std::map<std::string, long>{{std::string(kSkipTwice), 2},
-                                                        {std::string(kSkipOtherForm), 1},
-                                                        {std::string(kSkipNotAMail), 1}}));
+    EXPECT_EQ(set.skipped,
+              (std::map<std::string, long>{
+                  {std::string(kSkipTwice), 2}, {std::string(kSkipOtherForm), 1}, {std::string(kSkipNotAMail), 1}}));
     // the changed question is a column of its own, behind the project's
     EXPECT_EQ(set.questions.back().title, "13. A question added later");
     EXPECT_FALSE(set.questions.back().fromProject);

@@ -19,7 +19,7 @@ TEST(SetupRead, SampleValuesHoldOrStopTheBuildWithTheirMessages)
 {
     Session s;
     ScriptedPort ui;
-    s.store.state.ProjectMode = "FORM";
+    s.store.state.ProjectMode = tq::model::Mode::Form;
     std::string text = tq::test::SetupEntryText("/srv/www", {.from = ";My Web Page"});
     tq::compose::FixLineBreaks(text); // as the build reads it
     tq::compose::ExtractSetupEntry(s, ui, text);
@@ -40,7 +40,7 @@ TEST(SetupRead, SampleValuesHoldOrStopTheBuildWithTheirMessages)
              "INVALID ENTRIES", Icon::Exclamation));
     Session survey;
     ScriptedPort ui2;
-    survey.store.state.ProjectMode = "SURVEY";
+    survey.store.state.ProjectMode = tq::model::Mode::Survey;
     text = tq::test::SetupEntryText("/srv/www", {.from = "Club", .lead = "[Background Color=1] [Info: x]"});
     text.replace(text.find("[Completed="), 11, "[Completed=;");
     tq::compose::FixLineBreaks(text);
@@ -86,7 +86,7 @@ class LineChecks : public ::testing::Test
 
 TEST_F(LineChecks, EachKeyHasItsFaultText)
 {
-    s.store.state.ProjectMode = "FORM";
+    s.store.state.ProjectMode = tq::model::Mode::Form;
     const struct
     {
         const char* key;

@@ -82,18 +82,18 @@ TEST(SetupFile, SortMessages)
     store::SortSetupByName(setup, port, false);
     EXPECT_TRUE(Said(port.last(), "The list does not require any changes.", "NO CHANGES NEEDED"));
     port.answer(Answer::Yes);
-    store::SortSetupByNumber(setup, port, "FORM");
+    store::SortSetupByNumber(setup, port, tq::model::Mode::Form);
     EXPECT_TRUE(
         Said(port.last(), "Order number must be greater then 0 and contain a number from 1 to 15", "ORDER ERROR"));
     for (int n = 0; n < store::kSetupRows; ++n)
         setup.rows[static_cast<size_t>(n)].OrderNumber = std::to_string(n + 1);
     setup.rows[0].OrderNumber = "3abc"; // counts 3, ahead of the other 3 by row order
     port.answer(Answer::Yes);
-    store::SortSetupByNumber(setup, port, "FORM");
+    store::SortSetupByNumber(setup, port, tq::model::Mode::Form);
     EXPECT_EQ(setup.rows[1].MenuName, "Alpha");
     EXPECT_EQ(port.last().text, "The Order has been updated");
     port.answer(Answer::Yes);
-    store::SortSetupByNumber(setup, port, "SURVEY");
+    store::SortSetupByNumber(setup, port, tq::model::Mode::Survey);
     EXPECT_EQ(port.last().text, "The Survey is already in sequential order and does not need to be sorted.\r\rTo "
                                 "change the Order, change the numbers below the Order button.");
 }

@@ -19,7 +19,7 @@ TEST(Templates, EveryTemplateOfBothModesStoresAsItsGoldenFile)
         Catalogue catalogue;
         TemplateSettings settings;
         StateRecord state;
-        state.ProjectMode = ToUpper(mode);
+        state.ProjectMode = ModeOf(mode);
         state.NewProjectPending = true;
         // digits 1,2,3,4,5,6,1,...: Password gets 12345612, Security Code 34561234
         auto k = std::make_shared<int>(0);
@@ -29,7 +29,7 @@ TEST(Templates, EveryTemplateOfBothModesStoresAsItsGoldenFile)
         for (int i = 0; i <= catalogue.CatalogueCount; ++i)
             all.emplace_back(CatalogueName(catalogue, i), CatalogueTemplate(catalogue, i));
         for (std::string_view f : FollowupNames())
-            all.emplace_back(f, FollowupTemplate(catalogue, f, mode));
+            all.emplace_back(f, FollowupTemplate(catalogue, f, ModeOf(mode)));
         const std::string folder = std::string(TQ_GOLDEN_DIR) + "/templates/" + mode + "/";
         for (auto& [name, oneLine] : all) {
             SCOPED_TRACE(mode + " / " + name);

@@ -279,7 +279,7 @@ void CreateHTMHeader(Session& s, UiPort& ui, int& abort)
         abort = 1;
         return;
     }
-    html::WritePageHead(b, model::ModeOf(s.store.state.ProjectMode));
+    html::WritePageHead(b, s.store.state.ProjectMode);
 }
 
 void HtmlPass(Session& s, UiPort& ui)
@@ -407,7 +407,7 @@ void RunBuild(Session& s, UiPort& ui)
         }
 
         // 10
-        html::WritePageClose(b, model::ModeOf(s.store.state.ProjectMode), b.setupValues.SubmitName);
+        html::WritePageClose(b, s.store.state.ProjectMode, b.setupValues.SubmitName);
         b.channels.closeAll();
         if (WriteFailed(b, ui, 1)) {
             b.passActive = false;

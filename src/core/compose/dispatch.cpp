@@ -134,7 +134,7 @@ void DispatchEntry(Session& s,
         return;
     }
 
-    const model::Mode mode = model::ModeOf(s.store.state.ProjectMode);
+    const model::Mode mode = s.store.state.ProjectMode;
     const model::ModeWriter& w = row->writerIn(mode);
     switch (w.writer) {
     case HtmlWriter::None:

@@ -387,7 +387,7 @@ void ExtractEntry(Session& s, UiPort& ui, std::string_view inputType, std::strin
         return;
     }
     if (s.build.buildError == 0)
-        ApplyGlobals(s.build.setupValues, s.build.values, model::ModeOf(s.store.state.ProjectMode));
+        ApplyGlobals(s.build.setupValues, s.build.values, s.store.state.ProjectMode);
 }
 
 void ExtractHorizontalLine(Session& s, UiPort& ui, std::string& text)
@@ -405,7 +405,7 @@ void ExtractHorizontalLine(Session& s, UiPort& ui, std::string& text)
     if (!ok)
         return;
     v.LineColorHex = model::ColorToHex(v.LineColor);
-    ApplyGlobals(s.build.setupValues, s.build.values, model::ModeOf(s.store.state.ProjectMode));
+    ApplyGlobals(s.build.setupValues, s.build.values, s.store.state.ProjectMode);
 }
 
 } // namespace tq::compose

@@ -55,7 +55,7 @@ bool StartsWithSemicolon(const std::string& value)
 void ExtractSetupEntry(Session& s, UiPort& ui, std::string& text)
 {
     write::SetupValues& v = s.build.setupValues;
-    const std::string& mode = s.store.state.ProjectMode;
+    const std::string mode(model::ModeText(s.store.state.ProjectMode));
     const bool preview = s.build.entryPreview;
 
     if (model::StartsWithNoCase(model::LTrim(text), "[BACKGROUND COLOR=") &&
@@ -336,7 +336,7 @@ void CheckAttribute(Session& s, UiPort& ui, std::string_view key, std::string& v
     check.K = model::ToUpper(check.key);
     check.value = value;
     check.V = model::ToUpper(value);
-    check.mode = s.store.state.ProjectMode;
+    check.mode = model::ModeText(s.store.state.ProjectMode);
     check.commitMode = s.store.state.commitMode;
     bool noneValue = false;
     const std::string fault = check.run(noneValue);

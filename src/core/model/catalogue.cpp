@@ -105,15 +105,13 @@ void BuildTemplates(Catalogue& catalogue, TemplateSettings& settings, StateRecor
 {
     if (state.NewProjectPending)
         ResetDefaults(settings, state.ProjectMode);
-    if (state.ProjectMode.empty())
-        state.ProjectMode = "FORM";
     if (settings.Email2.empty())
         settings.Email2 = "NONE";
     if (settings.Email3.empty())
         settings.Email3 = "NONE";
     RestoreEmptyPaths(settings);
 
-    const bool survey = ModeOf(state.ProjectMode) == Mode::Survey;
+    const bool survey = state.ProjectMode == Mode::Survey;
     if (survey)
         frameOff = 1; // the survey is never framed
     settings.TextColor = (survey || frameOff == 1) ? "0" : "16777215";
@@ -152,7 +150,7 @@ void BuildTemplates(Catalogue& catalogue, TemplateSettings& settings, StateRecor
 
 void BuildCatalogue(Catalogue& catalogue, TemplateSettings& settings, StateRecord& state)
 {
-    const int flag = ModeOf(state.ProjectMode) == Mode::Survey ? 0 : settings.FrameOff;
+    const int flag = state.ProjectMode == Mode::Survey ? 0 : settings.FrameOff;
     BuildTemplates(catalogue, settings, state, flag);
 }
 
@@ -196,18 +194,17 @@ const std::string& CatalogueTemplate(const Catalogue& catalogue, int index)
     return catalogue.CatalogueTemplates[static_cast<size_t>(index)];
 }
 
-const std::string& FollowupTemplate(const Catalogue& catalogue, std::string_view followup, std::string_view mode)
+const std::string& FollowupTemplate(const Catalogue& catalogue, std::string_view followup, Mode mode)
 {
     static const std::string kNone;
     const std::string upper = ToUpper(followup);
     for (size_t i = 0; i < kFollowupNames.size(); ++i)
         if (upper == ToUpper(kFollowupNames[i]))
-            return ModeOf(mode) == Mode::Survey ? catalogue.SurveyFollowupTemplates[i]
-                                                : catalogue.FormFollowupTemplates[i];
+            return mode == Mode::Survey ? catalogue.SurveyFollowupTemplates[i] : catalogue.FormFollowupTemplates[i];
     return kNone;
 }
 
-std::string DefaultTemplateFor(const Catalogue& catalogue, std::string_view name, std::string_view mode)
+std::string DefaultTemplateFor(const Catalogue& catalogue, std::string_view name, Mode mode)
 {
     if (ToUpper(name) == "SETUP")
         return catalogue.SetupTemplate;

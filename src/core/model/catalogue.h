@@ -87,10 +87,10 @@ const std::string& CatalogueTemplate(const Catalogue& catalogue, int index);
 
 /// The one-line template of a Followup for a mode (FORM or SURVEY, any case);
 /// empty for a name that is no Followup.
-const std::string& FollowupTemplate(const Catalogue& catalogue, std::string_view followup, std::string_view mode);
+const std::string& FollowupTemplate(const Catalogue& catalogue, std::string_view followup, Mode mode);
 
 /// The default one-line text of any name of the mode: a pick-list type, a
 /// Followup of the active mode, or "Setup". Empty for an unknown name.
-std::string DefaultTemplateFor(const Catalogue& catalogue, std::string_view name, std::string_view mode);
+std::string DefaultTemplateFor(const Catalogue& catalogue, std::string_view name, Mode mode);
 
 } // namespace tq::model

@@ -172,7 +172,7 @@ void InsertAtRow(EditContext& c, int page, int row, int pickIndex)
         return stop();
     if (EqualsNoCase(source, "SETUP")) {
         c.ui.message(std::string("SETUP input type cannot be duplicated.") + kCR + kCR +
-                         "Only one instance is required to complete your " + st.ProjectMode,
+                         "Only one instance is required to complete your " + std::string(ModeText(st.ProjectMode)),
                      "CANNOT COPY SETUP", Icon::Exclamation);
         return stop();
     }
@@ -282,7 +282,8 @@ bool ClearAllRows(EditContext& c, int mode)
             text += std::string("Do you want to clear all entries on all pages and reset the SETUP PAGE to the system "
                                 "defaults?") +
                     kCR + kCR + "NOTE: If you want to keep the settings on the SETUP PAGE then select" + kCR + "FILE" +
-                    kCR + st.ProjectMode + kCR + "CREATE " + st.ProjectMode;
+                    kCR + std::string(ModeText(st.ProjectMode)) + kCR + "CREATE " +
+                    std::string(ModeText(st.ProjectMode));
         }
         if (c.ui.ask(text, "Clear Entries", Buttons::YesNo, Icon::Question, 1) == Answer::No) {
             st.AbortFlag = 1;

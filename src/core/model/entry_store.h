@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/internal_error.h"
+#include "model/mode.h"
 #include "port/ui_port.h"
 
 #include <array>
@@ -37,7 +38,7 @@ struct PreviewSlot
 /// The state record shared by all parts of the program.
 struct StateRecord
 {
-    std::string ProjectMode = "FORM";
+    Mode ProjectMode = Mode::Form;
     std::string CurrentFileName;
     std::string LoadedMarker;
     int EditPage = 1;

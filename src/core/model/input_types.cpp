@@ -269,16 +269,6 @@ constexpr Family kFamilies[] = {
 
 } // namespace
 
-Mode ModeOf(std::string_view text)
-{
-    return EqualsNoCase(text, "SURVEY") ? Mode::Survey : Mode::Form;
-}
-
-std::string_view ModeText(Mode mode)
-{
-    return mode == Mode::Survey ? "SURVEY" : "FORM";
-}
-
 const ModeWriter& InputType::writerIn(Mode mode) const
 {
     return mode == Mode::Survey ? survey : form;

@@ -47,7 +47,7 @@ void InitSetupRow(EditContext& c)
 void InitNewProject(EditContext& c)
 {
     InitSetupRow(c);
-    const bool survey = EqualsNoCase(c.store.state.ProjectMode, "SURVEY");
+    const bool survey = c.store.state.ProjectMode == Mode::Survey;
     for (const DefaultRow& d : kDefaultRows) {
         const std::string_view name = survey ? d.survey : d.form;
         if (name.empty()) {
@@ -64,8 +64,7 @@ void InitNewProject(EditContext& c)
     c.ui.entriesChanged();
 }
 
-int SwitchMode(
-    EditContext& c, const ModeHooks& hooks, std::string_view mode, int targetPage, int keepEntries, bool frameSwitch)
+int SwitchMode(EditContext& c, const ModeHooks& hooks, Mode mode, int targetPage, int keepEntries, bool frameSwitch)
 {
     StateRecord& st = c.store.state;
     TemplateSettings& s = c.settings;
@@ -79,9 +78,9 @@ int SwitchMode(
     st.SwitchInProgress = true;
 
     // 2
-    st.ProjectMode = std::string(mode);
-    const bool survey = EqualsNoCase(mode, "SURVEY");
-    if (EqualsNoCase(mode, "FORM")) {
+    st.ProjectMode = mode;
+    const bool survey = mode == Mode::Survey;
+    if (!survey) {
         s.FrameOff = 0;
         if (st.NewProjectPending) {
             s.ShowToolTips = 1;
@@ -94,9 +93,9 @@ int SwitchMode(
 
     // 3: the mode stays changed when the user keeps the entries
     if (keepEntries == 0 && !ClearAllRows(c, 1)) {
-        const std::string text =
-            frameSwitch ? std::string(kFrameSwitchWarning)
-                        : "All entries must be cleared before you can switch to the " + std::string(mode) + " page";
+        const std::string text = frameSwitch ? std::string(kFrameSwitchWarning)
+                                             : "All entries must be cleared before you can switch to the " +
+                                                   std::string(ModeText(mode)) + " page";
         c.ui.message(text, "ABORTED", Icon::Information);
         st.SwitchInProgress = false;
         return st.AbortFlag;
@@ -136,7 +135,7 @@ int SwitchMode(
     return 0;
 }
 
-bool CreateNewProject(EditContext& c, const ModeHooks& hooks, std::string_view mode, int targetPage)
+bool CreateNewProject(EditContext& c, const ModeHooks& hooks, Mode mode, int targetPage)
 {
     StateRecord& st = c.store.state;
     st.NewProjectPending = true;
@@ -154,7 +153,7 @@ bool CreateNewProject(EditContext& c, const ModeHooks& hooks, std::string_view m
     return keep;
 }
 
-bool SwitchProjectList(EditContext& c, const ModeHooks& hooks, std::string_view mode)
+bool SwitchProjectList(EditContext& c, const ModeHooks& hooks, Mode mode)
 {
     StateRecord& st = c.store.state;
     st.KeepSetupRow = true;

@@ -34,21 +34,17 @@ void InitNewProject(EditContext& c);
 /// pick lists are refilled, and unless a load runs the view `targetPage`
 /// (1 start page, 2 to 5 Page 1 to 4, 6 the Setup page) is shown. Returns
 /// the AbortFlag (0 when the switch went through).
-int SwitchMode(EditContext& c,
-               const ModeHooks& hooks,
-               std::string_view mode,
-               int targetPage,
-               int keepEntries,
-               bool frameSwitch = false);
+int SwitchMode(
+    EditContext& c, const ModeHooks& hooks, Mode mode, int targetPage, int keepEntries, bool frameSwitch = false);
 
 /// Create Form / Create Survey: SwitchMode with NewProjectPending set, then,
 /// unless refused, InitNewProject with the previous SetupEntry put back
 /// (when there was one). Returns false when the user kept the old entries.
-bool CreateNewProject(EditContext& c, const ModeHooks& hooks, std::string_view mode, int targetPage);
+bool CreateNewProject(EditContext& c, const ModeHooks& hooks, Mode mode, int targetPage);
 
 /// The Form / Survey commands of the switch menu: like CreateNewProject, but
 /// the SetupEntry stays at the fresh template of the new mode. Returns false
 /// when the user kept the old entries (then no row changes).
-bool SwitchProjectList(EditContext& c, const ModeHooks& hooks, std::string_view mode);
+bool SwitchProjectList(EditContext& c, const ModeHooks& hooks, Mode mode);
 
 } // namespace tq::model

@@ -158,7 +158,7 @@ bool ReorderEntries(EntryStore& store, UiPort& ui)
     // 8
     if (!st.SwitchInProgress) {
         if (!changed)
-            ui.message("The " + ToProperCase(st.ProjectMode) +
+            ui.message("The " + ToProperCase(ModeText(st.ProjectMode)) +
                            " is already in sequential order and does not need to be sorted." + kCR + kCR +
                            "To change the Order, change the numbers below the Order button.",
                        "NO CHANGES NEEDED", Icon::None);

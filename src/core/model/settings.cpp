@@ -49,7 +49,7 @@ std::string SampleEmail()
     return ";" + std::string(platform::kSampleEmail);
 }
 
-void ResetDefaults(TemplateSettings& settings, std::string_view mode)
+void ResetDefaults(TemplateSettings& settings, Mode mode)
 {
     settings.BackgroundImagePath = SampleImagePath();
     settings.ServerFolderPath = SampleServerFolderPath();
@@ -62,7 +62,7 @@ void ResetDefaults(TemplateSettings& settings, std::string_view mode)
     settings.CompletedPage = ";thankyou.htm";
     settings.GlobalAlign = "NONE";
     settings.SubmitNameDefault = "Submit Form";
-    settings.SubmitAlignDefault = ToUpper(mode) == "SURVEY" ? "CENTER" : "LEFT";
+    settings.SubmitAlignDefault = mode == Mode::Survey ? "CENTER" : "LEFT";
     settings.SubmitButtonColor = "0";
     settings.Email1 = SampleEmail();
     settings.Email2 = "none";

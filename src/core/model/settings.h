@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/mode.h"
+
 #include <string>
 #include <string_view>
 
@@ -70,7 +72,7 @@ struct TemplateSettings
 /// any case): the sample paths, names, colours and e-mail addresses, the
 /// submit defaults ("LEFT" for FORM, "CENTER" for SURVEY) and the font and
 /// text defaults. The three switches and TextColor are left alone.
-void ResetDefaults(TemplateSettings& settings, std::string_view mode);
+void ResetDefaults(TemplateSettings& settings, Mode mode);
 
 /// Puts each of the six sample paths that is empty or "NONE" (any case) back
 /// to its sample value; other values stay.

@@ -74,7 +74,7 @@ void CopySetupValues(Session& s, const EditState& st)
         else if (k == "BACKGROUND IMAGE PATH")
             settings.BackgroundImagePath = v;
         else if (k == "INCLUDE FRAME WITH FORM")
-            settings.FrameOff = yes && EqualsNoCase(s.store.state.ProjectMode, "FORM") ? 0 : 1;
+            settings.FrameOff = yes && s.store.state.ProjectMode == model::Mode::Form ? 0 : 1;
         else if (k == "FRAME BORDER COLOR")
             settings.FrameBorderColor = v;
         else if (k == "FRAME COLOR")
@@ -220,7 +220,7 @@ bool ExitEditPage(Session& s, UiPort& ui, EditState& st)
 bool AbortEditPage(Session& s, UiPort& ui, EditState& st)
 {
     if (CommitEditPage(s, ui, st, true) != 0) {
-        const std::string& mode = s.store.state.ProjectMode;
+        const std::string mode(model::ModeText(s.store.state.ProjectMode));
         if (ui.ask("THERE ARE ERRORS ON THE EDIT PAGE\rYOUR " + mode +
                        " WILL NOT BUILD CORRECTLY\r\rARE YOU SURE YOU WANT TO ABORT?",
                    "ABORT", Buttons::YesNo, Icon::Question, 2) != Answer::Yes)

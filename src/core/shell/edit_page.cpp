@@ -173,7 +173,7 @@ bool IsFrameRow(std::string_view key)
     return k == "FRAME BORDER COLOR" || k == "FRAME COLOR" || k == "TOTAL FRAMES";
 }
 
-void ApplySetupVisibility(EditState& st, std::string_view mode)
+void ApplySetupVisibility(EditState& st, model::Mode mode)
 {
     for (auto& f : st.fields)
         f.visible = true;
@@ -182,7 +182,7 @@ void ApplySetupVisibility(EditState& st, std::string_view mode)
     const int frameRow = FindRow(st, "INCLUDE FRAME WITH FORM");
     if (frameRow < 0)
         return;
-    if (EqualsNoCase(mode, "SURVEY")) {
+    if (mode == model::Mode::Survey) {
         for (size_t i = static_cast<size_t>(frameRow); i < st.fields.size(); ++i)
             st.fields[i].visible = false;
     } else if (EqualsNoCase(model::Trim(st.fields[static_cast<size_t>(frameRow)].Value), "NO")) {
@@ -220,7 +220,7 @@ void ApplyToggle(Session& s, UiPort& ui, EditState& st, int row)
     const std::string k = UpperKey(f.Key);
     const bool yes = EqualsNoCase(model::Trim(f.Value), "YES");
     auto& settings = s.settings;
-    if (k == "INCLUDE FRAME WITH FORM" && EqualsNoCase(s.store.state.ProjectMode, "FORM")) {
+    if (k == "INCLUDE FRAME WITH FORM" && s.store.state.ProjectMode == model::Mode::Form) {
         if (yes) {
             // the warning of the mode switch: the colours of the rows are not changed here
             ui.message(model::kFrameSwitchWarning, "ABORTED", Icon::Information);
@@ -275,7 +275,7 @@ void ClearGlobalTextColor(Session& s, UiPort& ui, EditState& st, int row)
     EditField& f = st.fields.at(static_cast<size_t>(row));
     if (UpperKey(f.Key) != "GLOBAL TEXT COLOR")
         return;
-    const std::string& mode = s.store.state.ProjectMode;
+    const std::string mode(model::ModeText(s.store.state.ProjectMode));
     if (EqualsNoCase(model::Trim(f.Value), "NONE")) {
         ui.message("The Global Text Color is already set to NONE\r\rThis means that all of the Text Colors in your "
                    "entire " +
@@ -300,7 +300,7 @@ EditAction EditTextField(Session& s, UiPort& ui, EditState& st, int row)
 {
     EditField& f = st.fields.at(static_cast<size_t>(row));
     const std::string k = UpperKey(f.Key);
-    const std::string& mode = s.store.state.ProjectMode;
+    const std::string mode(model::ModeText(s.store.state.ProjectMode));
     if (k == "COMPLETED") {
         // the thank-you page is a file of the web folder: its name is the value
         FileDialogOptions options;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/mode.h"
 #include "port/ui_port.h"
 
 #include <string>
@@ -67,7 +68,7 @@ bool IsFrameRow(std::string_view key);
 /// The SETUP rules: in SURVEY, INCLUDE FRAME WITH FORM and every row after it
 /// are hidden; in FORM the three frame rows are hidden while it reads NO.
 /// Other Entries show every row.
-void ApplySetupVisibility(EditState& st, std::string_view mode);
+void ApplySetupVisibility(EditState& st, model::Mode mode);
 
 /// Opens the edit page on (page, row): reads the rows, sets the caption and
 /// the visibility, keeps EditPage/EditRow in the state record, marks the row

@@ -115,7 +115,7 @@ std::vector<ExtraUpload> ExtraUploads(const model::EntryStore& store)
 std::vector<std::string> InstructionLines(const Session& s)
 {
     const auto& b = s.build;
-    const std::string& mode = s.store.state.ProjectMode;
+    const std::string mode(model::ModeText(s.store.state.ProjectMode));
     const std::string folder = CutSeparator(b.setupValues.WebFolder);
     const std::string html = b.setupValues.OutputName;
     const std::string php = b.formAction;
@@ -156,7 +156,7 @@ std::vector<std::string> InstructionLines(const Session& s)
 
 FinalPageText ShowInstructions(Session& s, UiPort&)
 {
-    const std::string& mode = s.store.state.ProjectMode;
+    const std::string mode(model::ModeText(s.store.state.ProjectMode));
     const std::string path = platform::JoinPath(s.DataFolder, "\\Instruct.txt");
     std::string text;
     for (const auto& line : InstructionLines(s))

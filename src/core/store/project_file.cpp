@@ -199,11 +199,11 @@ int OpenProject(
     if (fromRecentList) {
         const std::string n = s.run.CurrentProjectName;
         const std::string e = n.size() >= 4 ? model::ToUpper(n.substr(n.size() - 4)) : model::ToUpper(n);
-        const std::string mode = model::ToUpper(state.ProjectMode);
-        if ((e == ".SRV" && mode == "FORM") || (e == ".FMS" && mode == "SURVEY")) {
+        const model::Mode mode = state.ProjectMode;
+        if ((e == ".SRV" && mode == model::Mode::Form) || (e == ".FMS" && mode == model::Mode::Survey)) {
             // "SURVEY" in both cases: a .fms picked in SURVEY mode stays there
             if (hooks.switchMode)
-                hooks.switchMode(s, ui, "SURVEY", sourcePage);
+                hooks.switchMode(s, ui, model::Mode::Survey, sourcePage);
             ui.hidePreviews();
             ui.showView(ViewOfPageNumber(sourcePage, View::Page1));
         } else if (clearPromptKept()) {
@@ -270,7 +270,7 @@ int OpenProject(
     ui.entriesChanged();
     RefreshStatus(s);
     UpdateRecentList(s, ui);
-    if (model::EqualsNoCase(state.ProjectMode, "FORM"))
+    if (state.ProjectMode == model::Mode::Form)
         RefreshFormList(s, ui);
     else
         RefreshSurveyList(s, ui);
@@ -304,7 +304,7 @@ bool HasUnsavedChanges(const Session& s)
 void RefreshStatus(Session& s)
 {
     const std::string name = model::ToUpper(s.run.CurrentProjectName);
-    const std::string mode = s.store.state.ProjectMode;
+    const std::string mode(model::ModeText(s.store.state.ProjectMode));
     StatusTexts& st = s.run.status;
     if (name.find(".FMS") != std::string::npos || name.find(".SRV") != std::string::npos)
         st.fileLabel = "FILE LOADED: " + name;

@@ -27,7 +27,7 @@ struct ProjectHooks
     std::function<int(Session&, UiPort&)> clearPrompt;
     /// SwitchMode(mode, targetPage, keepEntries 1): changes the mode without
     /// clearing the rows.
-    std::function<void(Session&, UiPort&, const std::string& mode, int targetPage)> switchMode;
+    std::function<void(Session&, UiPort&, model::Mode mode, int targetPage)> switchMode;
 };
 
 /// The first pass of a save: for each used row of Page 1 row 0 to Page 4 row

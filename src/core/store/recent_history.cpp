@@ -57,7 +57,7 @@ bool RefreshList(Session& s, UiPort& ui, RecentList list)
                 continue;
             std::string path = line;
             std::string year, month, day;
-            FileDateParts(ui, path, year, month, day, s.store.state.ProjectMode);
+            FileDateParts(ui, path, year, month, day, model::ModeText(s.store.state.ProjectMode));
             if (year.empty()) {
                 // the show list is searched even for a form or survey line,
                 // so those lists keep their dead line
@@ -102,7 +102,7 @@ std::string HistoryPath(const std::string& dataFolder, RecentList list)
 
 void UpdateRecentList(Session& s, UiPort& ui)
 {
-    const bool form = model::EqualsNoCase(s.store.state.ProjectMode, "FORM");
+    const bool form = s.store.state.ProjectMode == model::Mode::Form;
     const std::string h = HistoryPath(s.DataFolder, form ? RecentList::Forms : RecentList::Surveys);
     auto bytes = ReadWholeFile(h);
     if (!bytes)

@@ -68,7 +68,7 @@ std::string RecoveryPath(std::string_view dataFolder)
 std::string RecoveryText(const Session& s)
 {
     std::string out(kMagic);
-    PutValue(out, s.store.state.ProjectMode);
+    PutValue(out, model::ModeText(s.store.state.ProjectMode));
     PutValue(out, s.store.state.CurrentFileName);
     for (const auto& page : s.store.pages) {
         for (const model::Entry& e : page) {
@@ -86,8 +86,13 @@ std::optional<RecoveryCopy> ReadRecoveryText(std::string_view text)
         return std::nullopt;
     text.remove_prefix(kMagic.size());
     RecoveryCopy copy;
-    if (!TakeValue(text, copy.mode) || !TakeValue(text, copy.fileName))
+    std::string mode;
+    if (!TakeValue(text, mode) || !TakeValue(text, copy.fileName))
         return std::nullopt;
+    // the copy writes the mode as ModeText does; any other text is no copy of ours
+    if (mode != model::ModeText(model::Mode::Form) && mode != model::ModeText(model::Mode::Survey))
+        return std::nullopt;
+    copy.mode = model::ModeOf(mode);
     for (auto& page : copy.pages) {
         for (model::Entry& e : page) {
             if (!TakeValue(text, e.InputTypeName) || !TakeValue(text, e.AttributeText) ||
@@ -95,7 +100,7 @@ std::optional<RecoveryCopy> ReadRecoveryText(std::string_view text)
                 return std::nullopt;
         }
     }
-    if (!text.empty() || (!model::EqualsNoCase(copy.mode, "FORM") && !model::EqualsNoCase(copy.mode, "SURVEY")))
+    if (!text.empty())
         return std::nullopt;
     return copy;
 }
@@ -123,8 +128,8 @@ bool StartRecovery(RecoveryKeeper& keeper, Session& s, UiPort& ui, const Project
         RemoveCopy(keeper, path);
         return false;
     }
-    if (!model::EqualsNoCase(copy->mode, s.store.state.ProjectMode) && hooks.switchMode)
-        hooks.switchMode(s, ui, model::ToUpper(copy->mode), 2);
+    if (copy->mode != s.store.state.ProjectMode && hooks.switchMode)
+        hooks.switchMode(s, ui, copy->mode, 2);
     s.store.pages = copy->pages;
     s.store.state.CurrentFileName = copy->fileName;
     s.run.CurrentProjectName = copy->fileName;

@@ -27,7 +27,7 @@ std::string RecoveryText(const Session& s);
 
 struct RecoveryCopy
 {
-    std::string mode;
+    model::Mode mode = model::Mode::Form;
     std::string fileName;
     model::PageRows pages;
 };

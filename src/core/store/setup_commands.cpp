@@ -116,7 +116,7 @@ void SortSetupByName(SetupStore& setup, UiPort& ui, bool descending)
                    "ORDER UPDATED", Icon::Information);
 }
 
-void SortSetupByNumber(SetupStore& setup, UiPort& ui, std::string_view mode)
+void SortSetupByNumber(SetupStore& setup, UiPort& ui, model::Mode mode)
 {
     if (ui.ask("Do you want to reorder your entries based on the reference numbers below?", "REORDER ENTRIES",
                Buttons::YesNo, Icon::Question, 1) != Answer::Yes)
@@ -150,7 +150,7 @@ void SortSetupByNumber(SetupStore& setup, UiPort& ui, std::string_view mode)
         setup.rows[j] = next;
     }
     if (!changed) {
-        ui.message("The " + model::ToProperCase(mode) +
+        ui.message("The " + model::ToProperCase(model::ModeText(mode)) +
                        " is already in sequential order and does not need to be sorted.\r\rTo change the Order, "
                        "change the numbers below the Order button.",
                    "NO CHANGES NEEDED", Icon::Information);

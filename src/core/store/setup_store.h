@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/mode.h"
 #include "port/platform.h"
 #include "port/ui_port.h"
 #include "store/run_values.h"
@@ -102,7 +103,7 @@ void SortSetupByName(SetupStore& setup, UiPort& ui, bool descending);
 
 /// "Sort by Number": orders the rows by their order numbers, with the
 /// messages of the Pages' Order command. `mode` is the ProjectMode.
-void SortSetupByNumber(SetupStore& setup, UiPort& ui, std::string_view mode);
+void SortSetupByNumber(SetupStore& setup, UiPort& ui, model::Mode mode);
 
 /// The three find buttons.
 enum class ToolKind { WebEditor, FtpProgram, Browser };
