@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "html/headings.h"
 #include "model/catalogue.h"
 #include "model/input_types.h"
 #include "model/internal_error.h"
@@ -161,4 +162,17 @@ TEST(InputTypes, ModeTextRoundTripsAndAnythingButSurveyIsAForm)
     EXPECT_EQ(ModeOf("survey"), Mode::Survey);
     EXPECT_EQ(ModeOf(""), Mode::Form);
     EXPECT_EQ(ModeOf("SURVEYS"), Mode::Form);
+}
+
+// The page writers tell families of types apart by id; a row added to the
+// table with a family's name must be found in that family.
+TEST(InputTypes, TheWritersFamiliesHoldExactlyTheRowsNamedLikeThem)
+{
+    const std::pair<const char*, bool (*)(const InputType&)> families[] = {
+        {"TITLE", html::IsTitle},       {"CONDITION", html::IsCondition}, {"FOLLOWUP", html::IsFollowup},
+        {"QUESTION", html::IsQuestion}, {"CHECKBOX", html::IsCheckbox},   {"COMMENTS", html::IsComments},
+        {"DOWNLOAD", html::IsDownload}};
+    for (const auto& [prefix, member] : families)
+        for (const InputType& row : InputTypes())
+            EXPECT_EQ(member(row), row.name.starts_with(prefix)) << prefix << " / " << row.name;
 }
