@@ -10,6 +10,7 @@
 #include "session.h"
 #include "shell/publish_check.h"
 #include "store/project_file.h"
+#include "store/setup_store.h"
 #include "store/text_file.h"
 
 #include <filesystem>
@@ -94,13 +95,10 @@ std::optional<std::string> DefaultDataFolder()
     const std::string fixed = platform::FixedFolder();
     if (fixed.empty())
         return std::nullopt;
-    const auto bytes = store::ReadWholeFile(platform::JoinPath(fixed, "\\Tarnquill.stt"));
-    if (!bytes)
+    auto folder = store::ReadStt(fixed);
+    if (!folder || folder->empty())
         return std::nullopt;
-    const auto lines = store::SplitFileLines(*bytes);
-    if (lines.empty() || lines[0].empty())
-        return std::nullopt;
-    return lines[0];
+    return folder;
 }
 
 int SetDataFolder(Session& s, const std::optional<std::string>& given, std::ostream& err)

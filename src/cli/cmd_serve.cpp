@@ -6,6 +6,7 @@
 
 #include "commands.h"
 #include "model/text_ops.h"
+#include "store/text_file.h"
 
 #include <algorithm>
 #include <arpa/inet.h>
@@ -16,8 +17,6 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <netinet/in.h>
 #include <ostream>
 #include <set>
@@ -39,19 +38,6 @@ volatile std::sig_atomic_t g_stop = 0;
 void OnStopSignal(int)
 {
     g_stop = 1;
-}
-
-std::string ReadAll(const fs::path& p)
-{
-    std::ifstream in(p, std::ios::binary);
-    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-}
-
-bool WriteAll(const fs::path& p, const std::string& bytes)
-{
-    std::ofstream out(p, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return static_cast<bool>(out);
 }
 
 /// The first executable `name` on PATH, or empty.
@@ -160,7 +146,9 @@ int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostre
 
     bool found = false;
     const fs::path copy = root / fs::path(file).filename();
-    if (!WriteAll(copy, PointProjectAt(ReadAll(file), site.string(), found)) || !found) {
+    if (!store::WriteFileReplacing(
+            copy.string(), PointProjectAt(store::ReadWholeFile(file).value_or(std::string()), site.string(), found)) ||
+        !found) {
         err << "tarnquill-cli: " << file << " holds no [Drive Folder Path= to build into\n";
         cleanUp();
         return 1;
@@ -178,7 +166,7 @@ int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostre
             page = e.path().filename().string();
 
     const fs::path capture = root / "mail-capture.sh";
-    WriteAll(capture, MailCaptureScript(mail.string()));
+    store::WriteFileReplacing(capture.string(), MailCaptureScript(mail.string()));
     fs::permissions(capture, fs::perms::owner_all, ec);
 
     if (port == 0)
@@ -258,7 +246,9 @@ int CmdServe(const std::vector<std::string>& args, std::ostream& out, std::ostre
         for (const auto& m : mails) {
             shown.insert(m.filename().string());
             ++count;
-            out << "----- mail " << count << " -----\n" << ReadAll(m) << "\n----- end of mail " << count << " -----\n";
+            out << "----- mail " << count << " -----\n"
+                << store::ReadWholeFile(m.string()).value_or(std::string()) << "\n----- end of mail " << count
+                << " -----\n";
             out.flush();
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(100));

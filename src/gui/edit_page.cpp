@@ -6,6 +6,7 @@
 #include "model/input_types.h"
 #include "model/internal_error.h"
 #include "model/text_ops.h"
+#include "qt_text.h"
 #include "session.h"
 #include "shell/preview.h"
 #include "shell/quiet_port.h"
@@ -30,16 +31,6 @@
 namespace tq::gui {
 
 namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
-
-std::string FromQ(const QString& s)
-{
-    return s.toUtf8().toStdString();
-}
 
 // the pause after the last key before the live preview follows
 constexpr int kLiveDelayMs = 150;

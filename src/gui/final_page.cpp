@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "final_page.h"
 
+#include "qt_text.h"
+
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
@@ -14,11 +16,6 @@
 namespace tq::gui {
 
 namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
 
 QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption)
 {

@@ -6,6 +6,7 @@
 #include "port/platform.h"
 #include "qt_keyring.h"
 #include "qt_port.h"
+#include "qt_text.h"
 #include "setup_page.h"
 #include "shortcuts.h"
 #include "start_page.h"
@@ -31,15 +32,6 @@
 #include <algorithm>
 
 namespace tq::gui {
-
-namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
-
-} // namespace
 
 MainWindow::MainWindow(const QString& documentsFolder, QWidget* parent)
     : QMainWindow(parent), m_port(std::make_unique<QtPort>(this)), m_keyring(std::make_unique<QtKeyring>(this))

@@ -6,6 +6,7 @@
 #include "main_window.h"
 #include "preview_window.h"
 #include "qt_port.h"
+#include "qt_text.h"
 #include "shell/batch_commands.h"
 #include "shell/instructions.h"
 #include "shell/preview.h"
@@ -14,15 +15,6 @@
 #include <QTimer>
 
 namespace tq::gui {
-
-namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
-
-} // namespace
 
 EditPage* MainWindow::editPage()
 {

@@ -7,6 +7,7 @@
 #include "model/new_project.h"
 #include "pick_list.h"
 #include "qt_port.h"
+#include "qt_text.h"
 #include "store/project_file.h"
 
 #include <QDialog>
@@ -16,15 +17,6 @@
 #include <QVBoxLayout>
 
 namespace tq::gui {
-
-namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
-
-} // namespace
 
 void MainWindow::registerPageActions()
 {

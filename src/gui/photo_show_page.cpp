@@ -2,6 +2,7 @@
 #include "photo_show_page.h"
 
 #include "menus.h"
+#include "qt_text.h"
 #include "shell/external_tools.h"
 #include "show/show_build.h"
 #include "show/show_commands.h"
@@ -25,11 +26,6 @@
 namespace tq::gui {
 
 namespace {
-
-QString ToQ(std::string_view s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
 
 template <size_t N> QStringList ListOf(const std::array<std::string_view, N>& items)
 {

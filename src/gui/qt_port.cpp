@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt_port.h"
 
+#include "qt_text.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
@@ -20,11 +22,6 @@ namespace tq::gui {
 
 /// The desktop's opener of documents, folders and web addresses.
 static constexpr const char* kOpener = "xdg-open";
-
-static QString ToQ(std::string_view s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
 
 static QString ToQText(std::string_view s)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "setup_page.h"
 
+#include "qt_text.h"
 #include "store/setup_store.h"
 
 #include <QGridLayout>
@@ -17,11 +18,6 @@
 namespace tq::gui {
 
 namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
 
 QMenuBar* BuildSetupMenuBar(QWidget* parent, const CommandHandler& h)
 {

@@ -11,6 +11,7 @@
 #include "model/reorder.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
+#include "store/text_file.h"
 
 #include <algorithm>
 #include <cctype>
@@ -116,12 +117,6 @@ bool WriteFailed(write::BuildState& b, UiPort& ui, int channel)
     ReportFileFault(ui, FileStep::Writing, out.error(), out.path());
     b.buildError = 1;
     return true;
-}
-
-bool FileReadable(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return in.is_open();
 }
 
 // Copies every line of `from` onto channel 1 as it stands.
@@ -233,7 +228,7 @@ void CreateHTMHeader(Session& s, UiPort& ui, int& abort)
         // The retries of this check are counted per header; the first one
         // already goes on, so the fatal branch behind five never comes.
         int retries = 0;
-        if (!FileReadable(b.phpPath))
+        if (!store::FileReadable(b.phpPath))
             ++retries;
         if (retries > 5) {
             ui.message("Unable to recover in sub CreateHTMHeader", "ERROR", Icon::Critical);

@@ -5,37 +5,12 @@
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
+#include "store/text_file.h"
 
 #include <exception>
 #include <filesystem>
-#include <fstream>
 
 namespace tq::compose {
-
-namespace {
-
-/// Splits file bytes into lines at CR LF or a lone LF.
-std::vector<std::string> SplitFileLines(const std::string& bytes)
-{
-    std::vector<std::string> lines;
-    std::string line;
-    for (size_t i = 0; i < bytes.size(); ++i) {
-        const char c = bytes[i];
-        if (c == '\n') {
-            if (!line.empty() && line.back() == '\r')
-                line.pop_back();
-            lines.push_back(line);
-            line.clear();
-        } else {
-            line += c;
-        }
-    }
-    if (!line.empty())
-        lines.push_back(line);
-    return lines;
-}
-
-} // namespace
 
 void LocateEntry(int slot, int& row, int& page)
 {
@@ -124,14 +99,13 @@ void RewriteAttribute(Session& s, std::string_view key, std::string_view value, 
         if (!good)
             throw std::runtime_error("cannot write " + scratch);
 
-        std::ifstream in(scratch, std::ios::binary);
-        const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        const std::string bytes = store::ReadWholeFile(scratch).value_or(std::string());
         write::LineWriter& ch2 = s.build.channels[2];
         ch2.close();
         if (!ch2.open(rewritten))
             throw std::runtime_error("cannot open " + rewritten);
         std::string result;
-        for (const std::string& line : SplitFileLines(bytes)) {
+        for (const std::string& line : store::SplitFileLines(bytes)) {
             std::string out = line;
             const size_t pos = model::ToUpper(line).find(upperKey);
             if (pos != std::string::npos)

@@ -57,11 +57,6 @@ std::string WrapHelp(std::string_view help)
     return out;
 }
 
-std::string UpperKey(std::string_view key)
-{
-    return model::ToUpper(model::Trim(key));
-}
-
 void CopySetupValues(Session& s, const EditState& st)
 {
     auto& settings = s.settings;

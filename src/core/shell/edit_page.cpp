@@ -25,11 +25,6 @@ bool IsOneOf(std::string_view upperKey, std::initializer_list<std::string_view> 
     return std::find(keys.begin(), keys.end(), upperKey) != keys.end();
 }
 
-std::string UpperKey(std::string_view key)
-{
-    return ToUpper(model::Trim(key));
-}
-
 /// Lines of a text: CR LF, a lone LF or a lone CR end a line.
 std::vector<std::string> TextLines(std::string_view text)
 {
@@ -67,6 +62,11 @@ void ShowFrameRows(EditState& st, bool show)
 }
 
 } // namespace
+
+std::string UpperKey(std::string_view key)
+{
+    return ToUpper(model::Trim(key));
+}
 
 FieldKind KindOfKey(std::string_view key)
 {

@@ -17,6 +17,9 @@ namespace tq::shell {
 /// The edit page shows at most this many rows; a longer text is an InternalError.
 constexpr int kMaxEditFields = 21;
 
+/// A key as the edit page compares it: blanks trimmed, upper case.
+std::string UpperKey(std::string_view key);
+
 /// How a row of the edit page is edited, decided from its upper-cased key.
 enum class FieldKind { NumberList, AlignList, LoopList, OnOffList, YesNoList, ColorField, TextField };
 

@@ -36,16 +36,6 @@ bool MakeFolder(const std::string& path)
     return FolderExists(path);
 }
 
-/// The first line of "\Tarnquill.stt"; nullopt when the file can't be read.
-std::optional<std::string> ReadStt(const std::string& fixedFolder)
-{
-    auto bytes = ReadWholeFile(platform::JoinPath(fixedFolder, kSttName));
-    if (!bytes)
-        return std::nullopt;
-    auto lines = SplitFileLines(*bytes);
-    return lines.empty() ? std::string() : lines.front();
-}
-
 std::string WithoutTrailingSeparator(std::string path)
 {
     while (path.size() > 1 && (path.back() == '/' || path.back() == '\\'))
@@ -83,6 +73,15 @@ std::string SetupValue(const std::string& line)
 }
 
 } // namespace
+
+std::optional<std::string> ReadStt(const std::string& fixedFolder)
+{
+    auto bytes = ReadWholeFile(platform::JoinPath(fixedFolder, kSttName));
+    if (!bytes)
+        return std::nullopt;
+    auto lines = SplitFileLines(*bytes);
+    return lines.empty() ? std::string() : lines.front();
+}
 
 std::array<SetupRow, kSetupRows> InitialSetupRows()
 {

@@ -50,6 +50,10 @@ void ClearSetupRows(SetupStore& setup);
 /// MenuName and gives it that caption; hides the others.
 void ApplySetupMenus(SetupStore& setup);
 
+/// The first line of "\Tarnquill.stt" in `fixedFolder`, the data folder it
+/// names (empty for an empty file); nullopt when the file can't be read.
+[[nodiscard]] std::optional<std::string> ReadStt(const std::string& fixedFolder);
+
 /// LoadDataFolder: reads "\Tarnquill.stt" in `fixedFolder` (created with its
 /// parents first). Asks for a folder until one is given (FOLDER PATH, NO
 /// FOLDER PATH WAS SELECTED, CREATION FAILURE; a cancelled box asks again).
