@@ -11,6 +11,7 @@
 
 using tq::Icon;
 using tq::Session;
+using tq::model::CommitMode;
 using tq::test::ScriptedPort;
 
 namespace {
@@ -65,7 +66,7 @@ class LineChecks : public ::testing::Test
     void SetUp() override { s.DataFolder = dir.path(); }
 
     /// The text of the fault, or "" when the row passes.
-    std::string Check(std::string_view key, std::string value, int commitMode = 0)
+    std::string Check(std::string_view key, std::string value, CommitMode commitMode = CommitMode::Plain)
     {
         s.store.state.commitMode = commitMode;
         ui.clear();
@@ -91,65 +92,66 @@ TEST_F(LineChecks, EachKeyHasItsFaultText)
     {
         const char* key;
         std::string value;
-        int commitMode;
+        CommitMode commitMode;
         std::string fault; // "" when the row passes
     } rows[] = {
-        {"Align", "\r\n", 0, "ALIGN\rCANNOT BE LEFT BLANK"},
-        {"Title", "ab", 0, "Title\rcannot be left blank"},
-        {"Error Message", "????", 0, "ERROR MESSAGE\rCANNOT HAVE A ????"},
-        {"loop", "infinite", 0, ""},
-        {"loop", "10", 0, "LOOP\rMUST BE SET TO 1,2,3,4,5,6,7,8,9 or Infinite"},
-        {"AutoStart", "sometimes", 0, "AUTOSTART\rMUST BE SET TO EITHER ON, OFF OR MOUSEOVER"},
-        {"Visible Download", "maybe", 0, "VISIBLE DOWNLOAD\rMUST BE SET TO EITHER YES OR NO"},
-        {"Bold", "of", 0, "BOLD\rMUST BE SET TO EITHER ON OR OFF"},
-        {"Picture Align", "middle", 0, "PICTURE ALIGN\rMUST BE SET TO LEFT, RIGHT OR CENTER"},
-        {"Title Shade Width", "40", 0,
+        {"Align", "\r\n", CommitMode::Plain, "ALIGN\rCANNOT BE LEFT BLANK"},
+        {"Title", "ab", CommitMode::Plain, "Title\rcannot be left blank"},
+        {"Error Message", "????", CommitMode::Plain, "ERROR MESSAGE\rCANNOT HAVE A ????"},
+        {"loop", "infinite", CommitMode::Plain, ""},
+        {"loop", "10", CommitMode::Plain, "LOOP\rMUST BE SET TO 1,2,3,4,5,6,7,8,9 or Infinite"},
+        {"AutoStart", "sometimes", CommitMode::Plain, "AUTOSTART\rMUST BE SET TO EITHER ON, OFF OR MOUSEOVER"},
+        {"Visible Download", "maybe", CommitMode::Plain, "VISIBLE DOWNLOAD\rMUST BE SET TO EITHER YES OR NO"},
+        {"Bold", "of", CommitMode::Plain, "BOLD\rMUST BE SET TO EITHER ON OR OFF"},
+        {"Picture Align", "middle", CommitMode::Plain, "PICTURE ALIGN\rMUST BE SET TO LEFT, RIGHT OR CENTER"},
+        {"Title Shade Width", "40", CommitMode::Plain,
          "TITLE SHADE WIDTH\rMUST HAVE A % AFTER THE TITLE SHADE WIDTH\r"
          "EXAMPLE: 40%"},
-        {"Line Width", "wide%", 0, "LINE WIDTH\rMUST HAVE A NUMBER"},
-        {"Link To", ";index.htm", 0,
+        {"Line Width", "wide%", CommitMode::Plain, "LINE WIDTH\rMUST HAVE A NUMBER"},
+        {"Link To", ";index.htm", CommitMode::Plain,
          "LINK TO\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB PAGE LINK.\r\r"
          "NOTE: THIS IS THE WEB PAGE THAT THE USER IS TAKEN TO WHEN THE USER CLICKS ON THE CANCEL BUTTON\r\r"
          "Example: index.htm"},
-        {"Link To", "index", 0,
+        {"Link To", "index", CommitMode::Plain,
          "LINK TO\rDOES NOT HAVE A VALID URL WEB LINK. MISSING THE PERIOD\r\rExample: index.htm"},
-        {"Link To", "&nbsp;a.htm", 0, "LINK TO\rCANNOT START WITH A SPACE\r\rPLEASE REMOVE THE SPACE"},
-        {"Thank You File", ";x.htm", 0,
+        {"Link To", "&nbsp;a.htm", CommitMode::Plain, "LINK TO\rCANNOT START WITH A SPACE\r\rPLEASE REMOVE THE SPACE"},
+        {"Thank You File", ";x.htm", CommitMode::Plain,
          "THANK YOU FILE\rMUST NOT HAVE A SEMI COLON(;) AND MUST HAVE A VALID WEB SERVER PATH\r\r"
          "NOTE: THIS IS THE FILE THAT THE USER IS TAKEN TO AFTER THE USER DOWNLOADS THE FILES\r\r"
          "Example: https://www.tarnquill.example/thankyou.htm\r\r"
          "PLEASE REMOVE THE SEMI-COLON(;) AND ENTER YOUR OWN WEB SERVER PATH"},
-        {"Server Download", "myfiles", 0,
+        {"Server Download", "myfiles", CommitMode::Plain,
          "SERVER DOWNLOAD\rDOES NOT HAVE A VALID URL WEB LINK. MISSING\r"
          "www.\r\rExample: https://www.tarnquill.example/test"},
-        {"Server Video Path", ";v.mp4", 0,
+        {"Server Video Path", ";v.mp4", CommitMode::Plain,
          "--- Server Video Path --- \rMUST NOT START WITH A SEMI COLON (;)\r\r"
          "PLEASE REMOVE THE SEMI COLON AND ENTER YOUR OWN VIDEO.\r\r"
          "THIS IS THE ABSOLUTE PATH THAT'S LOCATED ON YOUR WEB SERVER\r\rREMOVE THE SEMI COLON (;) WHEN DONE"},
-        {"FROM", ";My Web Page", 0, ""},
-        {"FROM", ";My Web Page", 10,
+        {"FROM", ";My Web Page", CommitMode::Plain, ""},
+        {"FROM", ";My Web Page", CommitMode::Exit,
          "--- FROM --- \rPLEASE CHANGE THE FROM TITLE TO YOUR OWN PERSONAL TITLE.\r\r"
          "THE FROM TITLE IS THE EMAIL FROM TITLE THAT YOU RECEIVE WHEN THE USER COMPLETES THE FORM\r\r"
          "REMOVE THE SEMI COLON (;) WHEN DONE"},
-        {"FROM", "a@b", 0, "FROM\rCANNOT HAVE A @ SYMBOL\r\rREMOVE THE a@b\r SYMBOL"},
-        {"Completed", "thankyou.htm", 10, ""},
-        {"Completed", "thanks.txt", 0, "COMPLETED\rMUST CONTAIN AN EXTENSION OF .HTM"},
-        {"TQL Output File", "c:formtql.htm", 0, "TQL OUTPUT FILE\rCANNOT CONTAIN A : IN THE FILENAME"},
-        {"Drive Folder Path", dir.path(), 0, ""},
-        {"Email #1", ";me@club.example", 0,
+        {"FROM", "a@b", CommitMode::Plain, "FROM\rCANNOT HAVE A @ SYMBOL\r\rREMOVE THE a@b\r SYMBOL"},
+        {"Completed", "thankyou.htm", CommitMode::Exit, ""},
+        {"Completed", "thanks.txt", CommitMode::Plain, "COMPLETED\rMUST CONTAIN AN EXTENSION OF .HTM"},
+        {"TQL Output File", "c:formtql.htm", CommitMode::Plain, "TQL OUTPUT FILE\rCANNOT CONTAIN A : IN THE FILENAME"},
+        {"Drive Folder Path", dir.path(), CommitMode::Plain, ""},
+        {"Email #1", ";me@club.example", CommitMode::Plain,
          "EMAIL #1\rMUST NOT HAVE A SEMI COLON(;)\r\rNOTE: PLEASE CHANGE THE EMAIL ADDRESS AND REPLACE IT WITH "
          "YOUR OWN PERSONAL EMAIL ADDRESS AND LEAVE OUT THE SEMI-COLON (;)\r\rExample: webmaster@tarnquill.example"},
-        {"Email #1", "none", 0, "NONE\rIS NOT A VALID EMAIL ADDRESS\r\rREPLACE NONE\r WITH A VALID EMAIL ADDRESS"},
-        {"Email #1", "me.club", 0, "ME.CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ SYMBOL"},
-        {"Email #1", "me@club", 0, "ME@CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD"},
-        {"Drive Folder Path", dir.path() + "/gone", 0,
+        {"Email #1", "none", CommitMode::Plain,
+         "NONE\rIS NOT A VALID EMAIL ADDRESS\r\rREPLACE NONE\r WITH A VALID EMAIL ADDRESS"},
+        {"Email #1", "me.club", CommitMode::Plain, "ME.CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ SYMBOL"},
+        {"Email #1", "me@club", CommitMode::Plain, "ME@CLUB\rIS NOT A VALID EMAIL ADDRESS\rREQUIRES A @ PERIOD"},
+        {"Drive Folder Path", dir.path() + "/gone", CommitMode::Plain,
          tq::model::ToUpper(dir.path() + "/gone") +
              "\rFOLDER DOES NOT EXIST\r\rCHANGE THE FOLDER PATH TO A VALID FOLDER\r\r"
              "USE THE EDIT BUTTON TO BROWSE FOR YOUR FOLDER PATH"},
     };
     for (const auto& r : rows)
         EXPECT_EQ(Check(r.key, r.value, r.commitMode), r.fault) << r.key << " = " << r.value;
-    EXPECT_EQ(Check("Completed", ";thankyou.htm", 10).substr(0, 20), "--- COMPLETED --- \rP");
+    EXPECT_EQ(Check("Completed", ";thankyou.htm", CommitMode::Exit).substr(0, 20), "--- COMPLETED --- \rP");
 }
 
 TEST_F(LineChecks, AFaultyDefaultEmailAddressBecomesNone)
@@ -165,7 +167,7 @@ TEST_F(LineChecks, AFaultyDefaultEmailAddressBecomesNone)
 
 TEST_F(LineChecks, AFaultRestoresTheTextAndAnEntryPreviewTestsNothing)
 {
-    EXPECT_EQ(Check("Title", "", 11), "");
+    EXPECT_EQ(Check("Title", "", CommitMode::EntryPreview), "");
     EXPECT_FALSE(s.store.state.CommitFailed);
     tq::test::WriteFileBytes(dir.file("tempStore.txt"), "[Title=Before]\r\n");
     tq::test::WriteFileBytes(dir.file("temp11.txt"), "[Title=ab]\r\n");

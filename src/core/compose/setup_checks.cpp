@@ -119,7 +119,7 @@ struct LineCheck
     std::string value; // trimmed
     std::string V;     // upper case
     std::string mode;
-    int commitMode = 0;
+    model::CommitMode commitMode = model::CommitMode::Plain;
 
     std::string spaceTest() const
     {
@@ -213,7 +213,7 @@ struct LineCheck
         if (is({"SERVER DOWNLOAD", "THANK YOU FILE"}) && !(t = serverPathTests()).empty())
             return t;
         // 10
-        if (K == "FROM" && commitMode == 10 && semicolon())
+        if (K == "FROM" && commitMode == model::CommitMode::Exit && semicolon())
             return "--- " + key +
                    " --- \rPLEASE CHANGE THE FROM TITLE TO YOUR OWN PERSONAL TITLE.\r\r"
                    "THE FROM TITLE IS THE EMAIL FROM TITLE THAT YOU RECEIVE WHEN THE USER COMPLETES THE " +
@@ -225,7 +225,7 @@ struct LineCheck
             return t;
         // 14 to 17
         if (K == "COMPLETED") {
-            if (commitMode == 10 && semicolon())
+            if (commitMode == model::CommitMode::Exit && semicolon())
                 return "--- " + K +
                        " --- \rPLEASE CHANGE THE COMPLETED ;THANKYOU.HTM FILE TO MATCH YOUR OWN THANK YOU FILE.\r\r"
                        "NOTE: THIS IS THE FILE THAT COMES UP ON THE USER'S WEB PAGE AFTER THE USER COMPLETES THE " +
@@ -329,7 +329,7 @@ struct LineCheck
 void CheckAttribute(Session& s, UiPort& ui, std::string_view key, std::string& value, int& err)
 {
     err = 0;
-    if (s.store.state.commitMode == 11)
+    if (s.store.state.commitMode == model::CommitMode::EntryPreview)
         return;
     LineCheck check;
     check.key = model::Trim(key);

@@ -29,7 +29,7 @@ void ExtractSetupEntry(Session& s, UiPort& ui, std::string& text);
 /// channel, copies "\tempStore.txt" over "\temp11.txt" in the DataFolder and
 /// sets the failed-commit flag. The caller then focuses, selects and colours
 /// the row's value (background 255, text 16777215). Two e-mail tests set
-/// `value` to "none". With `commitMode` 11 (an Entry preview) nothing is tested.
+/// `value` to "none". With `commitMode` EntryPreview nothing is tested.
 void CheckAttribute(Session& s, UiPort& ui, std::string_view key, std::string& value, int& err);
 
 } // namespace tq::compose

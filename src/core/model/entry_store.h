@@ -35,6 +35,13 @@ struct PreviewSlot
     std::string AttributeText;
 };
 
+/// What a commit of the edit page is run for: the line checks differ.
+enum class CommitMode {
+    Plain = 0,         // every other commit
+    Exit = 10,         // Exit of the edit page commits: the FROM and COMPLETED semicolons are refused too
+    EntryPreview = 11, // the Entry preview commits: nothing is tested
+};
+
 /// The state record shared by all parts of the program.
 struct StateRecord
 {
@@ -55,8 +62,8 @@ struct StateRecord
     std::string SavedSetupName;
     std::string SavedSetupText;
     int AbortFlag = 0;
-    bool LoadPending = false;  // the opening marker: the clear prompt runs on behalf of an open
-    int commitMode = 0;        // 10 while Exit of the edit page commits, 11 during an Entry preview, else 0
+    bool LoadPending = false; // the opening marker: the clear prompt runs on behalf of an open
+    CommitMode commitMode = CommitMode::Plain;
     bool CommitFailed = false; // a line check of the edit page refused the commit
 };
 

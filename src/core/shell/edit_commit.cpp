@@ -198,9 +198,9 @@ int CommitEditPage(Session& s, UiPort& ui, EditState& st, bool dryRun)
 bool ExitEditPage(Session& s, UiPort& ui, EditState& st)
 {
     auto& state = s.store.state;
-    state.commitMode = 10;
+    state.commitMode = model::CommitMode::Exit;
     const int err = CommitEditPage(s, ui, st);
-    state.commitMode = 0;
+    state.commitMode = model::CommitMode::Plain;
     if (err != 0)
         return false;
     for (auto& page : s.store.pages)

@@ -148,7 +148,7 @@ int CheckEditRows(Session& s, UiPort& ui, EditState& st, bool keepValues);
 /// nothing is stored and no message is shown.
 int CommitEditPage(Session& s, UiPort& ui, EditState& st, bool dryRun = false);
 
-/// Exit of the edit page: commits with commitMode 10; on success clears the
+/// Exit of the edit page: commits with commitMode Exit; on success clears the
 /// highlights, marks the row green and goes back to its create page. False
 /// when the page stays open.
 bool ExitEditPage(Session& s, UiPort& ui, EditState& st);

@@ -16,9 +16,9 @@ std::string PreviewEntry(Session& s, UiPort& ui, EditState& st)
     auto& b = s.build;
     auto& state = s.store.state;
     b.setupHold = false;
-    state.commitMode = 11;
+    state.commitMode = model::CommitMode::EntryPreview;
     const int err = CheckEditRows(s, ui, st, true);
-    state.commitMode = 0;
+    state.commitMode = model::CommitMode::Plain;
     if (err != 0)
         return {};
 
