@@ -8,6 +8,7 @@
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
+#include "shell/open_project.h"
 #include "shell/publish_check.h"
 #include "store/project_file.h"
 #include "store/setup_store.h"
@@ -119,17 +120,24 @@ int SetDataFolder(Session& s, const std::optional<std::string>& given, std::ostr
     return 0;
 }
 
+bool OpenProjectForCommand(Session& s, UiPort& port, const std::string& file, std::ostream& err)
+{
+    shell::OpenHooks hooks;
+    hooks.clearPrompt = [](Session&, UiPort&) { return 0; };
+    // the mode of the command line stands, whatever the file's extension says
+    hooks.switchMode = [](Session&, UiPort&, model::Mode, int) {};
+    hooks.remember = [](Session&, UiPort&) {};
+    if (shell::OpenProjectFile(s, port, file, hooks) == shell::OpenResult::Opened)
+        return true;
+    err << "tarnquill-cli: cannot read " << file << "\n";
+    return false;
+}
+
 int BuildProject(Session& s, const BuildOptions& o, ConsolePort& port, std::ostream& err)
 {
-    const auto bytes = store::ReadWholeFile(o.file);
-    if (!bytes) {
-        err << "tarnquill-cli: cannot read " << o.file << "\n";
-        return 1;
-    }
     s.store.state.ProjectMode = o.mode.empty() ? ModeOfFile(o.file) : model::ModeOf(o.mode);
-    auto reader = store::ReaderOf(*bytes);
-    store::ReadEntries(s.store, reader);
-    s.store.state.CurrentFileName = o.file;
+    if (!OpenProjectForCommand(s, port, o.file, err))
+        return 1;
 
     if (o.webFolder) {
         auto& setupText = s.store.pages[0][0].AttributeText;

@@ -5,8 +5,7 @@
 #include "results/project_questions.h"
 #include "results/read_sources.h"
 #include "session.h"
-#include "store/project_file.h"
-#include "store/text_file.h"
+#include "shell/quiet_port.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -96,11 +95,9 @@ bool LoadProject(const ResultsOptions& o, results::ResultSet& set, std::ostream&
         s->DataFolder = (scratch / "data").string(); // the build's working files are scratch here
 
     bool ok = false;
-    if (const auto bytes = store::ReadWholeFile(o.project)) {
-        s->store.state.ProjectMode = ModeOfFile(o.project);
-        auto reader = store::ReaderOf(*bytes);
-        store::ReadEntries(s->store, reader);
-        s->store.state.CurrentFileName = o.project;
+    s->store.state.ProjectMode = ModeOfFile(o.project);
+    shell::QuietPort quiet;
+    if (OpenProjectForCommand(*s, quiet, o.project, err)) {
         results::ProjectQuestions questions;
         std::string why;
         ok = results::ReadProjectQuestions(*s, (scratch / "site").string(), questions, why);
@@ -108,8 +105,6 @@ bool LoadProject(const ResultsOptions& o, results::ResultSet& set, std::ostream&
             set = results::ResultsForProject(questions);
         else
             err << "tarnquill-cli: " << o.project << " does not build: " << why << "\n";
-    } else {
-        err << "tarnquill-cli: cannot read " << o.project << "\n";
     }
     fs::remove_all(scratch, ec);
     return ok;

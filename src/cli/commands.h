@@ -10,7 +10,8 @@
 
 namespace tq {
 struct Session;
-}
+struct UiPort;
+} // namespace tq
 
 namespace tq::cli {
 
@@ -30,6 +31,12 @@ struct BuildOptions
 /// Sets the session's DataFolder to `given` or the default one; 0, or 2 with
 /// the reason on `err` when there is none or it does not exist.
 int SetDataFolder(Session& s, const std::optional<std::string>& given, std::ostream& err);
+
+/// Opens `file` into `s` as the command line does: the mode set before
+/// stands (ModeOfFile or --mode), the fresh session has nothing to clear, the
+/// recent lists stay as they are. False, with the reason on `err`, when the
+/// file cannot be read.
+bool OpenProjectForCommand(Session& s, UiPort& port, const std::string& file, std::ostream& err);
 
 /// Reads the project file into `s` and builds it as `o` says: 0 when the
 /// build made its files, 1 when it stopped (the reason went through `port`).

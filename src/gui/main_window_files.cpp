@@ -3,12 +3,12 @@
 #include "create_page.h"
 #include "main_window.h"
 #include "qt_port.h"
+#include "qt_text.h"
 #include "shell/instructions.h"
+#include "shell/open_project.h"
 #include "store/defaults.h"
 #include "store/project_file.h"
 #include "store/recent_history.h"
-
-#include <QFileInfo>
 
 namespace tq::gui {
 
@@ -60,16 +60,18 @@ void MainWindow::registerFileCommands()
 
 void MainWindow::openFile(const QString& path)
 {
-    if (!QFileInfo(path).isFile() || !QFileInfo(path).isReadable()) {
-        m_port->message("The project file\r" + path.toStdString() + "\rcannot be opened.", "NOT OPENED",
-                        Icon::Exclamation);
+    const store::ProjectHooks project = projectHooks();
+    shell::OpenHooks hooks{project.clearPrompt, project.switchMode, store::KeepInRecentList};
+    switch (shell::OpenProjectFile(m_session, *m_port, FromQ(path), hooks)) {
+    case shell::OpenResult::Unreadable:
+        m_port->message("The project file\r" + FromQ(path) + "\rcannot be opened.", "NOT OPENED", Icon::Exclamation);
         return;
-    }
-    // as a pick from a recent list: a survey file switches to SURVEY
-    m_session.run.CurrentProjectName = QFileInfo(path).absoluteFilePath().toStdString();
-    const bool survey = path.endsWith(".srv", Qt::CaseInsensitive);
-    if (store::OpenProject(m_session, *m_port, 1, survey ? "srv" : "fms", true, projectHooks()) == 0)
+    case shell::OpenResult::Opened:
         showView(View::Page1);
+        break;
+    case shell::OpenResult::Kept:
+        break;
+    }
     refreshAll();
 }
 

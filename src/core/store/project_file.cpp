@@ -269,11 +269,10 @@ int OpenProject(
     ++s.run.projectSaves;
     ui.entriesChanged();
     RefreshStatus(s);
-    UpdateRecentList(s, ui);
-    if (state.ProjectMode == model::Mode::Form)
-        RefreshFormList(s, ui);
+    if (hooks.remember)
+        hooks.remember(s, ui);
     else
-        RefreshSurveyList(s, ui);
+        KeepInRecentList(s, ui);
     return 0;
 }
 

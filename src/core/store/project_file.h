@@ -28,6 +28,8 @@ struct ProjectHooks
     /// SwitchMode(mode, targetPage, keepEntries 1): changes the mode without
     /// clearing the rows.
     std::function<void(Session&, UiPort&, model::Mode mode, int targetPage)> switchMode;
+    /// What an open keeps of the file it read; unset: KeepInRecentList.
+    std::function<void(Session&, UiPort&)> remember;
 };
 
 /// The first pass of a save: for each used row of Page 1 row 0 to Page 4 row

@@ -133,6 +133,15 @@ void UpdateRecentList(Session& s, UiPort& ui)
         RefreshSurveyList(s, ui);
 }
 
+void KeepInRecentList(Session& s, UiPort& ui)
+{
+    UpdateRecentList(s, ui);
+    if (s.store.state.ProjectMode == model::Mode::Form)
+        RefreshFormList(s, ui);
+    else
+        RefreshSurveyList(s, ui);
+}
+
 void RefreshFormList(Session& s, UiPort& ui)
 {
     RefreshList(s, ui, RecentList::Forms);

@@ -32,6 +32,10 @@ inline constexpr std::string_view kHistoryPrompt =
 /// is not created.
 void UpdateRecentList(Session& s, UiPort& ui);
 
+/// What an open keeps of the file it read: UpdateRecentList, then the list
+/// of the project's mode rebuilt once more.
+void KeepInRecentList(Session& s, UiPort& ui);
+
 /// RefreshFormList: rebuilds File1..File15 from "\FormHistory.txt".
 void RefreshFormList(Session& s, UiPort& ui);
 
