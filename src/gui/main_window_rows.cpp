@@ -10,8 +10,9 @@
 #include "model/reorder.h"
 #include "model/text_ops.h"
 #include "pick_list.h"
-#include "port/platform.h"
 #include "qt_port.h"
+#include "qt_text.h"
+#include "shell/preview.h"
 #include "store/recent_history.h"
 
 namespace tq::gui {
@@ -154,33 +155,16 @@ void MainWindow::selectPickItem(int page, int pickIndex)
 
 void MainWindow::quickPreview(int page, int pickIndex)
 {
-    Session& s = m_session;
-    auto& state = s.store.state;
-    state.QuickPreviewActive = true;
-    s.build.buildError = 0;
-    if (pickIndex < 0 && !state.PreviewFromEdit) {
-        state.QuickPreviewActive = false;
-        return;
-    }
+    shell::QuickPreviewResult preview;
     {
         BusyCursor busy;
-        auto c = editContext();
-        // under QuickPreviewActive the add fills the preview slots, no row
-        if (model::AddToFirstFreeRow(c, page, pickIndex) || !state.PreviewSlots[0].InputTypeName.empty()) {
-            compose::BuildOutput(s, *m_port, {compose::BuildKind::EntryPreview});
-        } else {
-            s.build.buildError = 1;
-        }
+        preview = shell::QuickPreview(m_session, *m_port, page, pickIndex);
     }
     CreatePage* p = createPage(page);
-    if (s.build.buildError == 1) {
+    if (preview.pane == shell::PreviewPane::Hidden)
         p->hidePreview();
-        state.QuickPreviewActive = false;
-        s.build.buildError = 0;
-        return;
-    }
-    p->showPreview(QString::fromStdString(platform::JoinPath(s.DataFolder, "\\Preview.htm")));
-    state.QuickPreviewActive = false;
+    else if (preview.pane == shell::PreviewPane::Shown)
+        p->showPreview(ToQ(preview.page));
 }
 
 } // namespace tq::gui

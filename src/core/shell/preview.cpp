@@ -4,6 +4,7 @@
 #include "compose/build_driver.h"
 #include "compose/validation.h"
 #include "html/quick_preview.h"
+#include "model/editing.h"
 #include "model/text_ops.h"
 #include "port/platform.h"
 #include "session.h"
@@ -35,6 +36,34 @@ std::string PreviewEntry(Session& s, UiPort& ui, EditState& st)
     const bool shown = b.buildError != 1;
     state.PreviewFromEdit = false;
     return shown ? platform::JoinPath(s.DataFolder, "\\Preview.htm") : std::string();
+}
+
+QuickPreviewResult QuickPreview(Session& s, UiPort& ui, int page, int pickIndex)
+{
+    auto& state = s.store.state;
+    s.build.buildError = 0;
+    if (pickIndex < 0 && !state.PreviewFromEdit)
+        return {};
+    struct ActiveWhileBuilding
+    {
+        model::StateRecord& state;
+        explicit ActiveWhileBuilding(model::StateRecord& st) : state(st) { state.QuickPreviewActive = true; }
+        ~ActiveWhileBuilding() { state.QuickPreviewActive = false; }
+        ActiveWhileBuilding(const ActiveWhileBuilding&) = delete;
+        ActiveWhileBuilding& operator=(const ActiveWhileBuilding&) = delete;
+    } active{state};
+
+    model::EditContext c{s.store, s.settings, s.catalogue, ui};
+    // under QuickPreviewActive the add fills the preview slots, no row
+    if (model::AddToFirstFreeRow(c, page, pickIndex) || !state.PreviewSlots[0].InputTypeName.empty())
+        compose::BuildOutput(s, ui, {compose::BuildKind::EntryPreview});
+    else
+        s.build.buildError = 1;
+    if (s.build.buildError == 1) {
+        s.build.buildError = 0;
+        return {PreviewPane::Hidden, {}};
+    }
+    return {PreviewPane::Shown, platform::JoinPath(s.DataFolder, "\\Preview.htm")};
 }
 
 std::string PreviewAttribute(Session& s, UiPort& ui, EditState& st, int row, std::string_view windowText)

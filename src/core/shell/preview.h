@@ -20,6 +20,27 @@ namespace tq::shell {
 /// build failed (the preview stays hidden). The row's text is not changed.
 std::string PreviewEntry(Session& s, UiPort& ui, EditState& st);
 
+/// What the create page does with its preview pane after a quick preview.
+enum class PreviewPane {
+    AsItWas, // nothing picked and no edit-page preview pending: nothing was built
+    Hidden,  // the Entry could not be placed or built
+    Shown,   // `page` holds the built Entry
+};
+
+/// The outcome of a quick preview.
+struct QuickPreviewResult
+{
+    PreviewPane pane = PreviewPane::AsItWas;
+    std::string page; // "\Preview.htm" of the DataFolder when shown
+};
+
+/// The create page's quick preview of `page`: the Input Type at `pickIndex`
+/// of the pick list (or, with PreviewFromEdit, the row under edit) goes into
+/// the preview slots while QuickPreviewActive is set, no row changes, and the
+/// slots are built alone as a whole page with no PHP. A failed build leaves
+/// `buildError` 0; QuickPreviewActive is clear again on every way out.
+[[nodiscard]] QuickPreviewResult QuickPreview(Session& s, UiPort& ui, int page, int pickIndex);
+
 /// The Preview command of the edit window: the window's text goes into the
 /// row through WindowToValue; a plain text is shown in the small framed page
 /// ("\Previewsingle.htm"), any other attribute through PreviewEntry.
