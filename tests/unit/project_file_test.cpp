@@ -26,6 +26,12 @@ std::string Save(const Session& s)
     return store::FormatProjectFile(store::WriteEntries(s.store));
 }
 
+// A bad-input fixture of tests/data/broken, named after its defect.
+std::string Broken(const std::string& name)
+{
+    return test::ReadFileBytes(TQ_TEST_DATA_DIR "/broken/" + name);
+}
+
 Session Load(const std::string& bytes)
 {
     Session s;
@@ -73,18 +79,23 @@ TEST(ProjectFile, ATwentySixthRowPutsPage2OutOfStep)
                                                "[E=2]\r\n[F=2]\r\n\r\n"}));
 }
 
-TEST(ProjectFile, EmptyAndBinaryFilesLoadWithoutComplaint)
+TEST(ProjectFile, EmptyBinaryAndLfOnlyFilesLoadWithoutComplaint)
 {
     Session s;
     Put(s, 1, 0, "Setup", "[A=1]\r\n");
-    store::LineReader empty = store::ReaderOf("");
+    store::LineReader empty = store::ReaderOf(Broken("empty_project.fms"));
     store::ReadEntries(s.store, empty);
     EXPECT_EQ(At(s, 1, 0).InputTypeName, "Setup");
-    std::string binary;
-    for (int i = 0; i < 4096; ++i)
-        binary += static_cast<char>((i * 7919) & 0xff);
-    Session b = Load(binary);
+    Session b = Load(Broken("binary_noise.fms"));
     EXPECT_FALSE(At(b, 1, 0).InputTypeName.empty()); // lines of text, taken as type lines
+    // LF line ends and a last line without one read as the same file saved with CR LF
+    const std::string lf = Broken("lf_only_no_last_line_end.fms");
+    std::string crlf;
+    for (char c : lf)
+        crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    Session fromLf = Load(lf);
+    EXPECT_EQ(At(fromLf, 1, 0).InputTypeName, "Name");
+    EXPECT_EQ(store::WriteEntries(fromLf.store), store::WriteEntries(Load(crlf + "\r\n").store));
 }
 
 TEST(ProjectFile, SaveAsksBeforeReplacingAndKeepsTheFileOnNo)

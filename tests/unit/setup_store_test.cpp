@@ -48,7 +48,8 @@ TEST(SetupFile, ImportOfAShortFileFillsWhatItHasAndAMissingFileIsSaid)
     test::TempDir dir;
     test::ScriptedPort port;
     SetupStore setup;
-    test::WriteFileBytes(dir.file("setup.imp"), " 0) Mine\r\n 0) https://m\r\n 0) /m\r\n 0) m@m\r\n\r\n 1) Second\r\n");
+    // cut off behind the menu name of the second row
+    test::WriteFileBytes(dir.file("setup.imp"), test::ReadFileBytes(TQ_TEST_DATA_DIR "/broken/truncated_setup.imp"));
     setup.rows[1].WebServerPath = "kept";
     store::ImportSetup(setup, port, dir.path(), true);
     EXPECT_EQ(setup.resultFlag, 1);

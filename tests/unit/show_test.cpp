@@ -58,9 +58,13 @@ TEST(ShowFile, RoundTripAndDamagedFiles)
     EXPECT_EQ(ReadShowText(ShowFileText(Edited("/tmp/x")), back), 14);
     EXPECT_EQ(back, Edited("/tmp/x"));
     // a short file leaves the rest; a bad colour ends the read there
-    EXPECT_EQ(ReadShowText("a.htm\nLEAVE\n", back), 2);
+    EXPECT_EQ(ReadShowText(ReadFileBytes(TQ_TEST_DATA_DIR "/broken/truncated_lf_lines.shw"), back), 3);
     EXPECT_EQ(back.HomeLinkText, "LEAVE");
+    EXPECT_EQ(back.ImageFolder, "/tmp/p");
     EXPECT_EQ(back.FadeDelay, "100");
+    EXPECT_EQ(ReadShowText(ReadFileBytes(TQ_TEST_DATA_DIR "/broken/colour_overflow.shw"), back), 13);
+    EXPECT_EQ(back.HomeFile, "1");
+    EXPECT_EQ(back.BackgroundColor, Edited("/tmp/x").BackgroundColor);
     std::string text = ShowFileText(ShowSettings{});
     text.replace(text.rfind("16777215"), 8, "blue");
     EXPECT_EQ(ReadShowText(text, back), 13);
@@ -136,8 +140,7 @@ TEST(ShowLines, TemplateLineRules)
         {&S::FadeMode, "square", "$fadeMode  =rand(0,4);", V{"$fadeMode=3;"}},
         {&S::FadeMode, "CLASSIC - DEFAULT", "$fadeMode  =rand(0,4);", V{}}, // no exact row: dropped
         {&S::BrowserTitle, "Club's photos", "$browsertitle=\"Image browser\";", V{"$browsertitle=\"Club's photos\";"}},
-        {&S::BrowserTitle, R"(X" . f("\$y") . ")", "Image browser",
-         V{R"($browsertitle="X\" . f(\"\\\$y\") . \"";)"}},
+        {&S::BrowserTitle, R"(X" . f("\$y") . ")", "Image browser", V{R"($browsertitle="X\" . f(\"\\\$y\") . \"";)"}},
         {&S::HomeLinkText, "BACK", "   <b>RETURN TO HOME PAGE</b></a>", V{"<b>BACK</b>"}},
         {&S::HomeFile, "home/", "  <a href=\"https://www.tarnquill.example\">",
          V{"             <i><a target=\\\"_blank\\\"href=\\\"home\\\">"}},
