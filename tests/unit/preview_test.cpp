@@ -50,7 +50,7 @@ std::unique_ptr<Session> FormForPreview(const test::TempDir& web, const std::str
 
 } // namespace
 
-TEST(QuickPreview, APickedTypeIsBuiltAloneIntoTheDataFolderAndNoRowChanges)
+TEST(QuickPreviewOfAPick, APickedTypeIsBuiltAloneIntoTheDataFolderAndNoRowChanges)
 {
     test::TempDir web;
     test::TempDir data;
@@ -73,7 +73,7 @@ TEST(QuickPreview, APickedTypeIsBuiltAloneIntoTheDataFolderAndNoRowChanges)
     EXPECT_TRUE(port.shown.empty());
 }
 
-TEST(QuickPreview, NoPickLeavesThePaneAndAFailedBuildHidesItWithTheFlagsClear)
+TEST(QuickPreviewOfAPick, NoPickLeavesThePaneAndAFailedBuildHidesItWithTheFlagsClear)
 {
     test::TempDir web;
     test::TempDir data;
