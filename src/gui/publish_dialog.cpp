@@ -2,6 +2,7 @@
 #include "publish_dialog.h"
 
 #include "port/curl_transfer.h"
+#include "qt_text.h"
 #include "session.h"
 #include "site_dialog.h"
 #include "store/site_store.h"
@@ -22,11 +23,6 @@
 namespace tq::gui {
 
 namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
 
 /// The web folder chosen last while the program runs.
 int g_lastSite = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt_keyring.h"
 
+#include "qt_text.h"
+
 #include <QEventLoop>
 #include <QThread>
 #include <QTimer>
@@ -16,11 +18,6 @@ constexpr const char* kService = "Tarnquill";
 /// A keyring that shows an unlock prompt waits for the user; one that is
 /// stuck is given up after this long.
 constexpr int kJobTimeoutMs = 120000;
-
-QString ToQ(std::string_view s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
 
 /// Runs `job` to its end on the calling thread; false when it did not end in time.
 bool RunJob(QKeychain::Job& job)

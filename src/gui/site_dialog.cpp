@@ -3,6 +3,7 @@
 
 #include "port/curl_transfer.h"
 #include "publish/site_login.h"
+#include "qt_text.h"
 #include "session.h"
 
 #include <QComboBox>
@@ -20,11 +21,6 @@
 namespace tq::gui {
 
 namespace {
-
-QString ToQ(const std::string& s)
-{
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
 
 std::string Trimmed(const QLineEdit* edit)
 {
