@@ -35,8 +35,8 @@ std::string ResultMail(int n)
     body += "1. Enter your full name\r\nVisitor " + std::to_string(n) + "\r\n\r\n";
     body += "2. Enter your Email Address\r\nv" + std::to_string(n) + "@example.com\r\n\r\n";
     for (int q = 3; q <= 10; ++q)
-        body += std::to_string(q) + ". Question " + std::to_string(q) + "?\r\n" + ((n + q) % 3 ? "yes" : "no") +
-                "\r\n\r\n";
+        body +=
+            std::to_string(q) + ". Question " + std::to_string(q) + "?\r\n" + ((n + q) % 3 ? "yes" : "no") + "\r\n\r\n";
     body += "11. Select a country\r\n" + std::string(kCountries[n % 4]) + "\r\n\r\n";
     body += "12. Select your level\r\nChecked: Beginner\nChecked: Advanced\n\r\n\r\nEnd of message\r\n";
     return "From visitor@localhost Mon Nov 23 10:00:00 2026\nTo: a@example.com\r\nSubject: Order\r\nMessage-ID: <" +
@@ -46,8 +46,8 @@ std::string ResultMail(int n)
 std::string UnrelatedMail(int n)
 {
     return "From list@localhost Mon Nov 23 10:00:00 2026\nFrom: list@example.com\r\nSubject: Digest " +
-           std::to_string(n) + "\r\nMessage-ID: <u" + std::to_string(n) +
-           "@bench>\r\n\r\nToday's news, part " + std::to_string(n) + ".\r\n\n";
+           std::to_string(n) + "\r\nMessage-ID: <u" + std::to_string(n) + "@bench>\r\n\r\nToday's news, part " +
+           std::to_string(n) + ".\r\n\n";
 }
 
 // Writes the mbox once per size and keeps it for the run.

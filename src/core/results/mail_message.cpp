@@ -9,8 +9,7 @@ namespace tq::results {
 
 namespace {
 
-template <typename T>
-struct GUnref
+template <typename T> struct GUnref
 {
     void operator()(T* p) const
     {
@@ -18,8 +17,7 @@ struct GUnref
             g_object_unref(p);
     }
 };
-template <typename T>
-using GPtr = std::unique_ptr<T, GUnref<T>>;
+template <typename T> using GPtr = std::unique_ptr<T, GUnref<T>>;
 
 struct GFree
 {
@@ -66,8 +64,8 @@ bool ToUtf8(const std::string& raw, const char* charset, std::string& out)
     }
     gsize written = 0;
     GError* error = nullptr;
-    GText converted(g_convert(raw.data(), static_cast<gssize>(raw.size()), "UTF-8",
-                              g_mime_charset_iconv_name(charset), nullptr, &written, &error));
+    GText converted(g_convert(raw.data(), static_cast<gssize>(raw.size()), "UTF-8", g_mime_charset_iconv_name(charset),
+                              nullptr, &written, &error));
     if (error != nullptr)
         g_error_free(error);
     if (!converted)

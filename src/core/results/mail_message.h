@@ -7,8 +7,7 @@
 namespace tq::results {
 
 /// Why a mail's text could not be taken.
-enum class MailFault
-{
+enum class MailFault {
     None,
     NotAMail,       // no header block a mail parser accepts
     NoText,         // no text/plain part anywhere in it

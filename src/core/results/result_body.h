@@ -19,15 +19,14 @@ struct AnswerText
 /// What one result mail holds: the head the script writes, then every question.
 struct Submission
 {
-    std::string from; // the line after "A message has been submitted from"
-    std::string date; // behind "Date: "
+    std::string from;    // the line after "A message has been submitted from"
+    std::string date;    // behind "Date: "
     std::string address; // the visitor's address, the line after "Send from public IP Address"
     std::vector<AnswerText> answers;
 };
 
 /// Why a text is not read as a result.
-enum class BodyFault
-{
+enum class BodyFault {
     None,
     NotAResult, // the text does not start as the script's message does
     CutOff      // the head is there, "End of message" is not

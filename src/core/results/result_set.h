@@ -29,9 +29,9 @@ struct ResultRow
 {
     std::string date;
     std::string address;
-    std::string origin;                           // where the mail was read
-    std::vector<std::string> cells;               // by question index; shorter when later questions came in
-    std::vector<std::vector<std::string>> picks;  // the ticked boxes, by question index
+    std::string origin;                          // where the mail was read
+    std::vector<std::string> cells;              // by question index; shorter when later questions came in
+    std::vector<std::vector<std::string>> picks; // the ticked boxes, by question index
 };
 
 /// What a project tells the reader: its questions in order, the caption
@@ -90,7 +90,7 @@ struct ChoiceCount
 struct QuestionCounts
 {
     size_t question = 0;
-    bool choices = false;           // counted by choice (else a text question)
+    bool choices = false;            // counted by choice (else a text question)
     std::vector<ChoiceCount> counts; // offered choices first, at 0 when nobody picked them
     long answered = 0;               // rows with a non-empty answer
 };

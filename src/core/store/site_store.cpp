@@ -17,9 +17,9 @@ json SiteToJson(int number, const SiteTarget& s)
     json sent = json::object();
     for (const auto& [name, file] : s.sent)
         sent[name] = {{"size", file.size}, {"sha256", file.sha256}};
-    return {{"number", number},     {"protocol", ProtocolName(s.protocol)},
-            {"host", s.host},       {"port", s.port},
-            {"user", s.user},       {"key", s.keyPath},
+    return {{"number", number},         {"protocol", ProtocolName(s.protocol)},
+            {"host", s.host},           {"port", s.port},
+            {"user", s.user},           {"key", s.keyPath},
             {"remoteDir", s.remoteDir}, {"url", s.url},
             {"pinnedKey", s.pinnedKey}, {"sent", sent}};
 }

@@ -34,10 +34,10 @@ struct SiteTarget
     std::string host;
     int port = 0; // 0: the protocol's own
     std::string user;
-    std::string keyPath;   // SFTP key instead of a password
-    std::string remoteDir; // the folder on the server
-    std::string url;       // the web address of that folder
-    std::string pinnedKey; // FTPS: the certificate the user trusted
+    std::string keyPath;                  // SFTP key instead of a password
+    std::string remoteDir;                // the folder on the server
+    std::string url;                      // the web address of that folder
+    std::string pinnedKey;                // FTPS: the certificate the user trusted
     std::map<std::string, SentFile> sent; // by remote file name
 };
 
