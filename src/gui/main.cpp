@@ -2,6 +2,7 @@
 #include "main_window.h"
 
 #include <QApplication>
+#include <QQuickWindow>
 #include <QSettings>
 #include <QStyleFactory>
 #include <unistd.h>
@@ -13,6 +14,13 @@ int main(int argc, char** argv)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     // the browser views share one GL context
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // The browser views draw their pages on the processor. The pages are small
+    // forms, and taking each frame through a GL scene and reading it back held
+    // the window up to 130 ms per page shown where GL itself runs on the
+    // processor; drawn directly a page is in sight in a few milliseconds. A
+    // scene backend named in the environment still decides.
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") && qEnvironmentVariableIsEmpty("QSG_RHI_BACKEND"))
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QApplication app(argc, argv);
     QApplication::setApplicationName("Tarnquill");
     QApplication::setStyle(QStyleFactory::create("Fusion"));
