@@ -224,7 +224,9 @@ void MainWindow::showView(View v)
         page = m_views.value(v);
     }
     m_view = v;
-    m_stack->setCurrentWidget(page);
+    m_previewAwaited = false;
+    if (!(v == View::FinalPage && m_holdFinalPage))
+        m_stack->setCurrentWidget(page);
     const auto keys = KeysOf(v, m_session.store.state.ProjectMode);
     for (QShortcut* sc : m_shortcuts)
         sc->setEnabled(std::any_of(keys.begin(), keys.end(), [sc](const KeyCommand& k) { return k.key == sc->key(); }));

@@ -21,7 +21,6 @@ class QShortcut;
 class QLabel;
 class QKeySequence;
 class QTimer;
-class QPixmap;
 
 namespace tq::gui {
 
@@ -113,10 +112,10 @@ class MainWindow : public QMainWindow
     void openEntryEditPage(int page, int row, const std::string& selectKey);
     void fillFinalPage();
     /// The preview window on the output file; `fromFinalPage` sets the
-    /// previewCaller that takes its Exit back to the final page. `shownNow`,
-    /// the page in sight when the command started, stands until the preview
-    /// has painted.
-    void showWholePagePreview(bool fromFinalPage, const QPixmap& shownNow);
+    /// previewCaller that takes its Exit back to the final page. The page in
+    /// sight stays until the preview has painted, unless the user has gone to
+    /// another page meanwhile.
+    void showWholePagePreview(bool fromFinalPage);
     void confirmExit();
     void runBuild(bool wholePage);
     void endProgram();
@@ -151,6 +150,8 @@ class MainWindow : public QMainWindow
     EditPage* m_edit = nullptr;
     FinalPage* m_final = nullptr;
     PreviewWindow* m_preview = nullptr;
+    // a preview asked for that comes into sight once painted
+    bool m_previewAwaited = false;
     std::array<CreatePage*, 4> m_pages{};
     QMap<View, QWidget*> m_views;
     QHash<QString, std::function<void()>> m_commands;
@@ -163,7 +164,9 @@ class MainWindow : public QMainWindow
     QString m_siteFolder;
     bool m_inCommand = false;
     bool m_buildFinished = false; // the build asked for the final page
-    int m_scriptChecks = 0;       // the php check of the newest build
+    // the final page a preview's build asks for is filled but not brought into sight
+    bool m_holdFinalPage = false;
+    int m_scriptChecks = 0; // the php check of the newest build
     store::RecoveryKeeper m_recovery;
     QTimer* m_recoveryTimer = nullptr;
 };

@@ -14,7 +14,7 @@
 #include "site_dialog.h"
 #include "wait_timings.h"
 
-#include <QPixmap>
+#include <QScopeGuard>
 #include <QStackedWidget>
 #include <memory>
 
@@ -47,17 +47,20 @@ void MainWindow::runBuild(bool wholePage)
     Session& s = m_session;
     // the preview's Exit goes back to the final page only when the build was started there
     const bool fromFinalPage = m_view == View::FinalPage;
+    const View started = m_view;
+    // The build ends on the final page; for a preview the page it started on
+    // stays in sight instead until the preview has painted.
     m_buildFinished = false;
     StartWait(wholePage ? "build and preview" : "build");
-    // what the user sees now stays until the preview has painted
-    const QPixmap shownNow = wholePage ? m_stack->currentWidget()->grab() : QPixmap();
-    NoteWait("page in sight taken");
     {
         BusyCursor busy;
-        if (wholePage)
+        if (wholePage) {
+            m_holdFinalPage = true;
+            const auto release = qScopeGuard([this] { m_holdFinalPage = false; });
             compose::CreateFormHTMLCode(s, *m_port);
-        else
+        } else {
             compose::CreateFormOnly(s, *m_port);
+        }
     }
     NoteWait("built");
     if (s.build.endProgram) {
@@ -78,8 +81,10 @@ void MainWindow::runBuild(bool wholePage)
             if (check == m_scriptChecks)
                 finalPage()->setPublishWarning(QString::fromStdString(*warning));
         });
-    if (wholePage)
-        showWholePagePreview(fromFinalPage, shownNow);
+    if (wholePage) {
+        showView(started);
+        showWholePagePreview(fromFinalPage);
+    }
 }
 
 } // namespace tq::gui

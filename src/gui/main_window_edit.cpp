@@ -10,8 +10,8 @@
 #include "shell/batch_commands.h"
 #include "shell/instructions.h"
 #include "shell/preview.h"
-#include "wait_timings.h"
 
+#include <QStackedWidget>
 #include <QTimer>
 
 namespace tq::gui {
@@ -31,7 +31,7 @@ FinalPage* MainWindow::finalPage()
 {
     if (!m_final) {
         m_final = new FinalPage(*m_port, [this](const QString& name) { runCommand(name); });
-        m_final->onPreviewFullScreen = [this] { showWholePagePreview(true, m_final->grab()); };
+        m_final->onPreviewFullScreen = [this] { showWholePagePreview(true); };
         registerPage(View::FinalPage, m_final);
     }
     return m_final;
@@ -40,7 +40,11 @@ FinalPage* MainWindow::finalPage()
 PreviewWindow* MainWindow::previewWindow()
 {
     if (!m_preview) {
-        m_preview = new PreviewWindow;
+        m_preview = new PreviewWindow(m_stack);
+        m_preview->onPainted = [this] {
+            if (m_previewAwaited)
+                showView(View::Preview);
+        };
         m_preview->onExit = [this] {
             auto& caller = m_session.run.previewCaller;
             if (caller != 9) {
@@ -87,12 +91,11 @@ void MainWindow::fillFinalPage()
     finalPage()->fill(shell::ShowInstructions(m_session, *m_port));
 }
 
-void MainWindow::showWholePagePreview(bool fromFinalPage, const QPixmap& shownNow)
+void MainWindow::showWholePagePreview(bool fromFinalPage)
 {
     m_session.run.previewCaller = fromFinalPage ? 9 : 0;
-    previewWindow()->showFile(ToQ(m_session.build.htmlPath), shownNow);
-    showView(View::Preview);
-    NoteWait("preview on show");
+    m_previewAwaited = true;
+    previewWindow()->showFile(ToQ(m_session.build.htmlPath));
 }
 
 } // namespace tq::gui

@@ -3,7 +3,7 @@
 
 #include "wait_timings.h"
 
-#include <QLabel>
+#include <QEvent>
 #include <QMenuBar>
 #include <QQuickWidget>
 #include <QQuickWindow>
@@ -15,21 +15,21 @@ namespace tq::gui {
 
 namespace {
 
-// The longest the picture of the page before may stand, should the browser
-// never say that it painted.
-constexpr int kCoverLimitMs = 1500;
+// The longest a new page may take to say that it painted before it is shown
+// as it stands.
+constexpr int kPaintLimitMs = 1500;
 
 } // namespace
 
-PreviewWindow::PreviewWindow(QWidget* parent) : QWidget(parent)
+PreviewWindow::PreviewWindow(QWidget* area, QWidget* parent) : QWidget(parent), m_area(area)
 {
     setObjectName("PreviewWindow");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* bar = new QMenuBar(this);
-    bar->setObjectName("MenuBar");
-    bar->setNativeMenuBar(false);
-    QAction* exit = bar->addAction("E&xit");
+    m_bar = new QMenuBar(this);
+    m_bar->setObjectName("MenuBar");
+    m_bar->setNativeMenuBar(false);
+    QAction* exit = m_bar->addAction("E&xit");
     exit->setObjectName("Exit");
     connect(exit, &QAction::triggered, this, [this] {
         // the content is set aside before the way back
@@ -37,104 +37,108 @@ PreviewWindow::PreviewWindow(QWidget* parent) : QWidget(parent)
         if (onExit)
             onExit();
     });
-    layout->setMenuBar(bar);
-    m_web = new QWebEngineView;
+    layout->setMenuBar(m_bar);
+    layout->addStretch(1);
+
+    // the pages paint their background, so the browser beneath them is out of sight
+    m_area->setAutoFillBackground(true);
+    m_area->installEventFilter(this);
+    m_web = new QWebEngineView(m_area->parentWidget());
     m_web->setObjectName("WebBrowser1");
-    layout->addWidget(m_web, 1);
+    m_web->setEnabled(false);
+    placeBrowser();
+    m_web->lower();
+    m_web->show();
     connect(m_web, &QWebEngineView::loadFinished, this, [this](bool ok) {
         if (!m_web->url().isLocalFile())
             return;
         NoteWait("preview loaded");
-        if (covered()) {
+        if (m_painting) {
             if (ok)
-                uncoverOnNextFrame();
+                paintedOnNextFrame();
             else
-                uncover();
+                painted();
         }
         if (onLoaded)
             onLoaded(ok);
     });
 
-    m_cover = new QLabel(this);
-    m_cover->setObjectName("PreviewCover");
-    m_cover->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_cover->hide();
-    m_coverLimit = new QTimer(this);
-    m_coverLimit->setSingleShot(true);
-    m_coverLimit->setInterval(kCoverLimitMs);
-    connect(m_coverLimit, &QTimer::timeout, this, &PreviewWindow::uncover);
+    m_paintLimit = new QTimer(this);
+    m_paintLimit->setSingleShot(true);
+    m_paintLimit->setInterval(kPaintLimitMs);
+    connect(m_paintLimit, &QTimer::timeout, this, &PreviewWindow::painted);
 
-    // starting the engine here, while the window is still hidden, makes the
-    // first preview quick
+    // starting the engine here makes the first preview quick
     m_web->setUrl(QUrl("about:blank"));
 }
 
-bool PreviewWindow::covered() const
-{
-    return !m_cover->isHidden();
-}
-
-void PreviewWindow::showFile(const QString& file, const QPixmap& shownNow)
+void PreviewWindow::showFile(const QString& file)
 {
     // The one view and its page are kept: a page made afresh costs more than
-    // the load itself. A hidden view has not painted what it loaded since it
-    // was hidden, so the page in sight now covers it until the new page has.
-    if (!isVisible() && !shownNow.isNull())
-        cover(shownNow);
+    // the load itself.
+    m_painting = true;
+    m_paintLimit->start();
     m_web->setUrl(QUrl::fromLocalFile(file));
 }
 
-void PreviewWindow::cover(const QPixmap& shownNow)
-{
-    m_cover->setPixmap(shownNow);
-    m_cover->setGeometry(rect());
-    m_cover->raise();
-    m_cover->show();
-    m_coverLimit->start();
-}
-
-void PreviewWindow::uncoverOnNextFrame()
+void PreviewWindow::paintedOnNextFrame()
 {
     // the browser paints through a scene of its own; the first frame of that
     // scene after the load shows the new page
     auto* scene = m_web->findChild<QQuickWidget*>();
     if (!scene || !scene->quickWindow()) {
-        uncover();
+        painted();
         return;
     }
     disconnect(m_nextFrame);
-    m_nextFrame = connect(scene->quickWindow(), &QQuickWindow::afterRendering, this, &PreviewWindow::uncover,
+    m_nextFrame = connect(scene->quickWindow(), &QQuickWindow::afterRendering, this, &PreviewWindow::painted,
                           Qt::QueuedConnection);
 }
 
-void PreviewWindow::uncover()
+void PreviewWindow::painted()
 {
     disconnect(m_nextFrame);
-    m_coverLimit->stop();
-    if (m_cover->isHidden())
+    m_paintLimit->stop();
+    if (!m_painting)
         return;
-    m_cover->hide();
-    m_cover->setPixmap({});
-    NoteWait("preview uncovered");
+    m_painting = false;
+    NoteWait("preview painted");
     if (onPainted)
         onPainted();
 }
 
-void PreviewWindow::resizeEvent(QResizeEvent* event)
+void PreviewWindow::placeBrowser()
 {
-    QWidget::resizeEvent(event);
-    m_cover->setGeometry(rect());
+    // the room of the window below its menu bar, wherever the window is
+    QRect room = m_area->geometry();
+    room.setTop(room.top() + m_bar->sizeHint().height());
+    m_web->setGeometry(room);
+}
+
+bool PreviewWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_area && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        placeBrowser();
+    return QWidget::eventFilter(watched, event);
+}
+
+void PreviewWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    placeBrowser();
+    m_web->setEnabled(true);
+    m_web->raise();
+    m_web->setFocus();
 }
 
 void PreviewWindow::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    // left before the page painted: the next showing covers afresh
     if (event->spontaneous())
         return;
-    disconnect(m_nextFrame);
-    m_coverLimit->stop();
-    m_cover->hide();
+    // out of sight and out of reach of keys and the mouse
+    m_web->lower();
+    m_web->setEnabled(false);
 }
 
 } // namespace tq::gui

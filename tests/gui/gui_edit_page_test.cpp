@@ -204,6 +204,25 @@ class EditPageTest : public QObject
         QCOMPARE(w.currentView(), tq::View::Page1);
     }
 
+    void aPageChosenWhileThePreviewPaintsStaysInSight()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        app.put(1, 0, "Setup");
+        app.put(1, 1, "Name");
+        app.useWebFolder();
+        test::DialogScript script;
+        w.showView(tq::View::Page2);
+        QVERIFY(test::Trigger(&w, "CreateFormHTMLCode"));
+        PreviewWindow* preview = w.previewWindow();
+        QVERIFY(preview->painting());
+        w.showView(tq::View::StartPage);
+        QTRY_VERIFY_WITH_TIMEOUT(!preview->painting(), 5000);
+        QTest::qWait(50);
+        QCOMPARE(w.currentView(), tq::View::StartPage);
+        QVERIFY(!preview->browser()->isEnabled());
+    }
+
     void aSurveyWholePageIsPreviewedAndExitGoesBackToWhereTheBuildStarted()
     {
         test::StartedWindow app;
@@ -218,14 +237,20 @@ class EditPageTest : public QObject
         w.showView(tq::View::Page2);
         QWebEnginePage* kept = nullptr;
         for (int round = 0; round < 2; ++round) {
+            const tq::View before = w.currentView();
             QVERIFY(test::Trigger(&w, "CreateFormHTMLCode"));
-            QCOMPARE(w.currentView(), tq::View::Preview);
-            // the page that was in sight covers the browser until the new page has painted
+            // the page that was in sight stays until the new page has painted
             PreviewWindow* preview = w.previewWindow();
-            QVERIFY(preview->covered());
-            QVERIFY(WaitLoaded(preview->browser()));
-            QTRY_VERIFY_WITH_TIMEOUT(!preview->covered(), 5000);
+            QVERIFY(preview->painting());
+            QCOMPARE(w.currentView(), before);
+            QVERIFY(!preview->browser()->isEnabled());
+            QTRY_COMPARE_WITH_TIMEOUT(w.currentView(), tq::View::Preview, 5000);
+            QVERIFY(!preview->painting());
             QVERIFY(preview->browser()->url().isLocalFile());
+            // the browser fills the window below its menu bar, over the pages
+            QVERIFY(preview->browser()->isEnabled());
+            QCOMPARE(preview->browser()->mapTo(&w, QPoint(0, 0)).x(), preview->mapTo(&w, QPoint(0, 0)).x());
+            QCOMPARE(preview->browser()->width(), preview->width());
             // one page serves every preview
             if (round == 0)
                 kept = preview->browser()->page();
@@ -235,6 +260,8 @@ class EditPageTest : public QObject
                 test::SaveScreenshot(&w, "whole_page_preview");
             }
             QVERIFY(test::Trigger(&w, "Exit"));
+            // out of sight, the browser takes neither keys nor clicks
+            QVERIFY(!preview->browser()->isEnabled());
             if (round == 0) {
                 // started on a create page: back on Page 1, its first Input Type selected
                 QCOMPARE(w.currentView(), tq::View::Page1);
