@@ -222,7 +222,7 @@ def main():
         # start to the start page painted, and no second showing of the window
         for i in range(runs):
             t0 = time.monotonic()
-            p = subprocess.Popen([program], env=env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            p = subprocess.Popen([program], env=env, stdout=subprocess.DEVNULL, stderr=said)
             running.append(p)
             while w.main_window(t0) is None:
                 w.pump(0.005)
