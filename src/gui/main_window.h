@@ -152,6 +152,8 @@ class MainWindow : public QMainWindow
     PreviewWindow* m_preview = nullptr;
     // a preview asked for that comes into sight once painted
     bool m_previewAwaited = false;
+    // work that waits until the preview has painted
+    std::function<void()> m_afterPreview;
     std::array<CreatePage*, 4> m_pages{};
     QMap<View, QWidget*> m_views;
     QHash<QString, std::function<void()>> m_commands;

@@ -74,17 +74,25 @@ void MainWindow::runBuild(bool wholePage)
     // wait for php; a later build's check replaces this one's.
     finalPage()->setPublishWarning({});
     const int check = ++m_scriptChecks;
-    auto warning = std::make_shared<std::string>();
-    RunStepWithoutWaiting(
-        this, [this, warning](UiPort& port) { *warning = shell::CheckPublishedScript(m_session.build, port).warning; },
-        [this, warning, check] {
-            if (check == m_scriptChecks)
-                finalPage()->setPublishWarning(QString::fromStdString(*warning));
-        });
-    if (wholePage) {
-        showView(started);
-        showWholePagePreview(fromFinalPage);
+    auto startCheck = [this, check] {
+        auto warning = std::make_shared<std::string>();
+        RunStepWithoutWaiting(
+            this,
+            [this, warning](UiPort& port) { *warning = shell::CheckPublishedScript(m_session.build, port).warning; },
+            [this, warning, check] {
+                if (check == m_scriptChecks)
+                    finalPage()->setPublishWarning(QString::fromStdString(*warning));
+            });
+    };
+    if (!wholePage) {
+        startCheck();
+        return;
     }
+    // php starting beside the browser would slow the preview down: it waits
+    // until the preview has painted
+    m_afterPreview = startCheck;
+    showView(started);
+    showWholePagePreview(fromFinalPage);
 }
 
 } // namespace tq::gui

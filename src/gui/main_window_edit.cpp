@@ -13,6 +13,7 @@
 
 #include <QStackedWidget>
 #include <QTimer>
+#include <utility>
 
 namespace tq::gui {
 
@@ -44,6 +45,8 @@ PreviewWindow* MainWindow::previewWindow()
         m_preview->onPainted = [this] {
             if (m_previewAwaited)
                 showView(View::Preview);
+            if (auto after = std::exchange(m_afterPreview, nullptr))
+                after();
         };
         m_preview->onExit = [this] {
             auto& caller = m_session.run.previewCaller;
