@@ -206,6 +206,10 @@ class DesktopTest : public QObject
             QVERIFY(help && help->isVisible());
             QTRY_COMPARE(help->browser()->url(), QUrl::fromLocalFile(file));
         }
+        auto* help = w.findChild<HelpWindow*>("HelpWindow");
+        QTRY_VERIFY(!help->browser()->page()->isLoading());
+        QTest::qWait(300);
+        test::SaveScreenshot(help, "help_window");
         // a page that is missing leaves the web address as it was
         QVERIFY(LocalHelpPage(app.docs.path(), "CreatingFormSurvey").isEmpty());
         QVERIFY(LocalHelpPage(folder, "HomePage").isEmpty());
