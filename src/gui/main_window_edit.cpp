@@ -10,9 +10,9 @@
 #include "shell/batch_commands.h"
 #include "shell/instructions.h"
 #include "shell/preview.h"
+#include "when_idle.h"
 
 #include <QStackedWidget>
-#include <QTimer>
 #include <utility>
 
 namespace tq::gui {
@@ -65,9 +65,10 @@ PreviewWindow* MainWindow::previewWindow()
 
 void MainWindow::registerEditCommands()
 {
-    // The browser engine starts once the window is up, so that the first
-    // preview does not wait for it and the start page does not either.
-    QTimer::singleShot(200, this, [this] { previewWindow(); });
+    // The browser engine starts once the window is up and the user pauses,
+    // so that the first preview does not wait for it, and neither do the
+    // start page and the first clicks (it holds the window some 250 ms).
+    RunWhenIdle(this, 150, [this] { previewWindow(); });
     // the batch command of the Pages: one shade width for every question
     registerCommand("ShadeWidthAll", [this] { shell::SetShadeWidthAll(m_session, *m_port); });
     registerCommand("SetAlignmentOnAll", [this] { shell::SetAlignmentOnAll(m_session, *m_port, "[ALIGN"); });
