@@ -9,6 +9,7 @@
 #include "help_window.h"
 #include "main_window.h"
 #include "photo_show_page.h"
+#include "preview_window.h"
 #include "start_page.h"
 
 #include <QAbstractScrollArea>
@@ -246,8 +247,18 @@ class DesktopTest : public QObject
         {
             int width, height;
         } sizes[] = {{1024, 700}, {1920, 1080}};
+        // the preview's browser fills the room below its menu bar, at each size
+        auto browserFillsThePreview = [&w] {
+            PreviewWindow* preview = w.previewWindow();
+            const QRect room(preview->mapTo(&w, QPoint(0, 0)), preview->size());
+            const QRect browser = preview->browser()->geometry();
+            return browser.left() == room.left() && browser.right() == room.right() &&
+                   browser.bottom() == room.bottom() && browser.top() > room.top();
+        };
         for (const auto& size : sizes) {
             w.resize(size.width, size.height);
+            if (w.currentView() == tq::View::Preview)
+                QTRY_VERIFY(browserFillsThePreview());
             const QString tag = QString("_%1x%2").arg(size.width).arg(size.height);
             auto shoot = [&](tq::View v, const QString& name) {
                 w.showView(v);
@@ -273,6 +284,13 @@ class DesktopTest : public QObject
             QDir().mkpath(web);
             w.runCommand("CreateFormOnly");
             shoot(tq::View::FinalPage, "desktop_final_page");
+            QDir(web).removeRecursively();
+            QDir().mkpath(web);
+            w.runCommand("CreateFormHTMLCode");
+            QTRY_COMPARE_WITH_TIMEOUT(w.currentView(), tq::View::Preview, 5000);
+            QVERIFY(browserFillsThePreview());
+            QTest::qWait(200);
+            test::SaveScreenshot(&w, "desktop_preview" + tag);
         }
     }
 };
