@@ -150,6 +150,15 @@ publish "$W/changed.fms" 1 --all || fail "--all"
 has out "sent formtql.htm" "--all"
 pass "only the changed file goes up; --all sends everything"
 
+# --- the old file steps aside only while the new one takes its name; one left
+#     aside by a broken publish does not stand in the way of the next
+echo "left by a broken publish" >"$W/www/sftp/.formtql.php.part.old"
+chown "$USER_NAME" "$W/www/sftp/.formtql.php.part.old"
+publish "$W/changed.fms" 1 --all || fail "publish past a file left aside"
+cmp -s "$W/local/formtql.php" "$W/www/sftp/formtql.php" || fail "the script on the server differs after a file left aside"
+[ -z "$(find "$W/www/sftp" -name '*.old' -o -name '*.part')" ] || fail "a file set aside or a temporary file stayed"
+pass "an old file set aside is gone once the new one stands; one left by a broken publish is cleared"
+
 # --- a key instead of a password; odd file names
 cli site 2 --protocol sftp --host 127.0.0.1 --port "$SSH_PORT" --user "$USER_NAME" --key "$W/ssh/user_key" \
     --remote-dir "$W/www/sftp" --url "$SFTP_URL" || fail "site 2"

@@ -16,6 +16,13 @@ namespace {
 
 constexpr long kConnectTimeoutS = 15;
 
+/// Where the old file of an SFTP upload waits while the new one takes its
+/// name: beside the temporary file, as hidden as it is.
+std::string AsideName(const std::string& tempName)
+{
+    return tempName + ".old";
+}
+
 std::string Base64(const unsigned char* data, size_t size, bool padding)
 {
     std::string out(4 * ((size + 2) / 3) + 1, '\0');
@@ -329,15 +336,19 @@ struct CurlTransfer::Handle
         return result;
     }
 
-    /// Removes a file of the remote folder, quietly: a left-over temporary file.
-    void removeQuietly(const RemoteLogin& login, const std::string& name)
+    /// Cleans up after a failed upload, quietly: the old file that stepped
+    /// aside (SFTP) comes back, and the temporary file goes.
+    void cleanUpQuietly(const RemoteLogin& login, const std::string& remoteName, const std::string& tempName)
     {
         prepare(login);
         SList commands;
-        if (login.protocol == Protocol::Sftp)
-            commands.add("rm " + Quoted(SftpFolder(login.remoteDir) + name));
-        else
-            commands.add("DELE " + name);
+        if (login.protocol == Protocol::Sftp) {
+            const std::string folder = SftpFolder(login.remoteDir);
+            commands.add("*rename " + Quoted(folder + AsideName(tempName)) + " " + Quoted(folder + remoteName));
+            commands.add("*rm " + Quoted(folder + tempName));
+        } else {
+            commands.add("*DELE " + tempName);
+        }
         curl_easy_setopt(curl, CURLOPT_URL, urlOf(login, "").c_str());
         curl_easy_setopt(curl, CURLOPT_NOBODY, 1L);
         curl_easy_setopt(curl, CURLOPT_QUOTE, commands.list);
@@ -401,11 +412,18 @@ TransferResult CurlTransfer::put(const RemoteLogin& login,
 
     h.prepare(login);
     SList after;
+    const std::string asideName = AsideName(tempName);
     if (login.protocol == Protocol::Sftp) {
-        // SFTP's rename does not replace a file: the old one goes just before the complete one takes its name
+        // SFTP's rename does not replace a file. The old one steps aside under
+        // a name of its own (where one left by a broken publish goes first),
+        // the complete one takes its name, and only then is the old one
+        // removed: at no moment is the old file gone while the new one is not
+        // in place.
         const std::string folder = SftpFolder(login.remoteDir);
-        after.add("*rm " + Quoted(folder + remoteName));
+        after.add("*rm " + Quoted(folder + asideName));
+        after.add("*rename " + Quoted(folder + remoteName) + " " + Quoted(folder + asideName));
         after.add("rename " + Quoted(folder + tempName) + " " + Quoted(folder + remoteName));
+        after.add("*rm " + Quoted(folder + asideName));
     } else {
         // FTP stands in the file's own folder after the upload
         after.add("RNFR " + BaseName(tempName));
@@ -426,7 +444,7 @@ TransferResult CurlTransfer::put(const RemoteLogin& login,
     TransferResult result = h.outcome(login, code, false);
     if (code != CURLE_OK && result.status != TransferStatus::UnknownIdentity &&
         result.status != TransferStatus::ChangedIdentity && result.status != TransferStatus::LoginRefused)
-        h.removeQuietly(login, tempName);
+        h.cleanUpQuietly(login, remoteName, tempName);
     return result;
 }
 
