@@ -48,13 +48,13 @@ void MainWindow::runBuild(bool wholePage)
     // the preview's Exit goes back to the final page only when the build was started there
     const bool fromFinalPage = m_view == View::FinalPage;
     const View started = m_view;
-    // The build ends on the final page; for a preview the page it started on
-    // stays in sight instead until the preview has painted.
     m_buildFinished = false;
     StartWait(wholePage ? "build and preview" : "build");
     {
         BusyCursor busy;
         if (wholePage) {
+            // The build ends on the final page; for a preview the page it
+            // started on stays in sight instead until the preview has painted.
             m_holdFinalPage = true;
             const auto release = qScopeGuard([this] { m_holdFinalPage = false; });
             compose::CreateFormHTMLCode(s, *m_port);
