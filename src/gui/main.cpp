@@ -16,13 +16,25 @@ namespace {
 // drawn directly a page is in sight in a few milliseconds. Nothing else draws
 // through GL, so the GL driver is not loaded either, which took a third of
 // the start. A backend named in the environment still decides.
+QtMessageHandler g_nextHandler = nullptr;
+
+// without GL on purpose, the window system's word that it has none is no news
+void PassOverMissingGl(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (type == QtWarningMsg && message.contains("Cannot create platform OpenGL context"))
+        return;
+    g_nextHandler(type, context, message);
+}
+
 void DrawOnProcessor()
 {
     if (!qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") || !qEnvironmentVariableIsEmpty("QSG_RHI_BACKEND"))
         return;
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    if (qEnvironmentVariableIsEmpty("QT_XCB_GL_INTEGRATION"))
+    if (qEnvironmentVariableIsEmpty("QT_XCB_GL_INTEGRATION")) {
         qputenv("QT_XCB_GL_INTEGRATION", "none");
+        g_nextHandler = qInstallMessageHandler(PassOverMissingGl);
+    }
 }
 
 } // namespace
