@@ -18,10 +18,12 @@ namespace {
 // the start. A backend named in the environment still decides.
 QtMessageHandler g_nextHandler = nullptr;
 
-// without GL on purpose, the window system's word that it has none is no news
+// without GL on purpose, the word of the window system and of the browser
+// engine that there is none is no news
 void PassOverMissingGl(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (type == QtWarningMsg && message.contains("Cannot create platform OpenGL context"))
+    if (type == QtWarningMsg && (message.contains("Cannot create platform OpenGL context") ||
+                                 message.contains("No suitable graphics backend found")))
         return;
     g_nextHandler(type, context, message);
 }
