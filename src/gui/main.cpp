@@ -10,12 +10,6 @@
 
 namespace {
 
-// The browser views draw their pages on the processor. The pages are small
-// forms, and taking each frame through a GL scene and reading it back held the
-// window up to 130 ms per page shown where GL itself runs on the processor;
-// drawn directly a page is in sight in a few milliseconds. Nothing else draws
-// through GL, so the GL driver is not loaded either, which took a third of
-// the start. A backend named in the environment still decides.
 QtMessageHandler g_nextHandler = nullptr;
 
 // without GL on purpose, the word of the window system and of the browser
@@ -28,6 +22,12 @@ void PassOverMissingGl(QtMsgType type, const QMessageLogContext& context, const 
     g_nextHandler(type, context, message);
 }
 
+// The browser views draw their pages on the processor. The pages are small
+// forms, and taking each frame through a GL scene and reading it back held the
+// window up to 130 ms per page shown where GL itself runs on the processor;
+// drawn directly a page is in sight in a few milliseconds. Nothing else draws
+// through GL, so the GL driver is not loaded either, which took a third of
+// the start. A backend named in the environment still decides.
 void DrawOnProcessor()
 {
     if (!qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") || !qEnvironmentVariableIsEmpty("QSG_RHI_BACKEND"))
@@ -47,7 +47,7 @@ int main(int argc, char** argv)
     // The browser engine refuses to start as root with its sandbox on.
     if (geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    // the browser views share one GL context
+    // the browser views share one GL context, where they draw through GL
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     DrawOnProcessor();
     QApplication app(argc, argv);
