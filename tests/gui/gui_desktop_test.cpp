@@ -9,6 +9,7 @@
 #include "help_window.h"
 #include "main_window.h"
 #include "photo_show_page.h"
+#include "pick_list.h"
 #include "preview_window.h"
 #include "start_page.h"
 
@@ -161,6 +162,38 @@ class DesktopTest : public QObject
         QVERIFY(test::Trigger(&w, "Exit"));
         QCOMPARE(w.currentView(), tq::View::Page1);
         QCOMPARE(w.createPage(1)->findChild<QSplitter*>()->sizes(), split);
+    }
+
+    void tabMovesBetweenListTableAndButtonsNeverIntoTheHiddenBrowser()
+    {
+        test::StartedWindow app;
+        MainWindow& w = *app.w;
+        app.put(1, 1, "Name");
+        w.showView(tq::View::Page1);
+        w.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w));
+        CreatePage* page = w.createPage(1);
+        QTableView* table = page->table();
+        page->pickList()->setFocus();
+        QTRY_VERIFY(page->pickList()->hasFocus());
+        table->setCurrentIndex(table->model()->index(1, 2));
+        // Tab goes round the pick list, the page's buttons and the table, the
+        // table once as a whole and not cell by cell
+        QStringList round;
+        for (int i = 0; i < 5; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            round << QApplication::focusWidget()->objectName();
+        }
+        QCOMPARE(round, QStringList({"BackgroundPicture", "Order", "ClearAll", "tblRows", "lstInputTypes"}));
+        QTest::keyClick(page->pickList(), Qt::Key_Backtab);
+        QVERIFY(table->hasFocus());
+        // round the whole window: the browser kept for the preview takes no focus while out of sight
+        QWebEngineView* browser = w.previewWindow()->browser();
+        for (int i = 0; i < 30; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QWidget* now = QApplication::focusWidget();
+            QVERIFY(now && now != browser && !browser->isAncestorOf(now));
+        }
     }
 
     void aFirstStartMakesTheSiteFolderThatANewProjectNames()
