@@ -412,7 +412,6 @@ TransferResult CurlTransfer::put(const RemoteLogin& login,
 
     h.prepare(login);
     SList after;
-    const std::string asideName = AsideName(tempName);
     if (login.protocol == Protocol::Sftp) {
         // SFTP's rename does not replace a file. The old one steps aside under
         // a name of its own (where one left by a broken publish goes first),
@@ -420,6 +419,7 @@ TransferResult CurlTransfer::put(const RemoteLogin& login,
         // removed: at no moment is the old file gone while the new one is not
         // in place.
         const std::string folder = SftpFolder(login.remoteDir);
+        const std::string asideName = AsideName(tempName);
         after.add("*rm " + Quoted(folder + asideName));
         after.add("*rename " + Quoted(folder + remoteName) + " " + Quoted(folder + asideName));
         after.add("rename " + Quoted(folder + tempName) + " " + Quoted(folder + remoteName));
